@@ -1,0 +1,8 @@
+`define Q1_LN3
+`define Q1_LN3_PMA_WIDTH 0
+`define Q1_LN3_TX_GEARBOX 0
+`define Q1_LN3_RX_GEARBOX 0
+`define Q1_LN3_CHANNEL_BONDING_MASTER_SEL 0
+`define Q1_LN3_TX_IF_MST_SEL 0
+`define MODULE_NAME 
+`define RZ7X138

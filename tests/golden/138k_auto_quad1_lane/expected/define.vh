@@ -1,0 +1,9 @@
+`define Q1_LN2
+`define Q1_LN2_PMA_WIDTH 8
+`define Q1_LN2_TX_GEARBOX 1
+`define Q1_LN2_RX_GEARBOX 2
+`define Q1_LN2_CHANNEL_BONDING_MASTER_SEL 6
+`define Q1_LN2_TX_IF_MST_SEL 0
+`define Q1_LN2_CTC_MASTER_SEL 6
+`define MODULE_NAME Link0
+`define RZ7X138

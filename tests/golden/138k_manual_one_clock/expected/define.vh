@@ -1,0 +1,9 @@
+`define Q0_LN0
+`define Q0_LN0_PMA_WIDTH 8
+`define Q0_LN0_TX_GEARBOX 1
+`define Q0_LN0_RX_GEARBOX 2
+`define Q0_LN0_CHANNEL_BONDING_MASTER_SEL 0
+`define Q0_LN0_TX_IF_MST_SEL 0
+`define Q0_LN0_CTC_MASTER_SEL 0
+`define MODULE_NAME Link0
+`define RZ7X138

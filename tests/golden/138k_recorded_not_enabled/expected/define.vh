@@ -1,0 +1,3 @@
+`define MODULE_NAME R
+`define DRP
+`define RZ7X138

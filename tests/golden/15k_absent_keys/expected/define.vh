@@ -1,0 +1,11 @@
+`define Q0_LN2
+`define Q0_LN2_TX_PMA_WIDTH 0
+`define Q0_LN2_RX_PMA_WIDTH 0
+`define Q0_LN2__ENCODE
+`define Q0_LN2__DECODE
+`define Q0_LN2_TX_GEARBOX 0
+`define Q0_LN2_RX_GEARBOX 0
+`define Q0_LN2_CHANNEL_BONDING_MASTER_SEL 0
+`define Q0_LN2_TX_IF_MST_SEL 0
+`define MODULE_NAME 
+`define RZ7X15

@@ -1,0 +1,11 @@
+`define Q0_LN0
+`define Q0_LN0_TX_PMA_WIDTH 0
+`define Q0_LN0_RX_PMA_WIDTH 0
+`define Q0_LN0__ENCODE
+`define Q0_LN0__DECODE
+`define Q0_LN0_TX_GEARBOX 0
+`define Q0_LN0_RX_GEARBOX 0
+`define Q0_LN0_CHANNEL_BONDING_MASTER_SEL 0
+`define Q0_LN0_TX_IF_MST_SEL 0
+`define MODULE_NAME 
+`define RZ7X60

@@ -1,0 +1,11 @@
+`define Q0_LN1
+`define Q0_LN1_TX_PMA_WIDTH 0
+`define Q0_LN1_RX_PMA_WIDTH 0
+`define Q0_LN1__ENCODE
+`define Q0_LN1__DECODE
+`define Q0_LN1_TX_GEARBOX 0
+`define Q0_LN1_RX_GEARBOX 0
+`define Q0_LN1_CHANNEL_BONDING_MASTER_SEL 0
+`define Q0_LN1_TX_IF_MST_SEL 0
+`define MODULE_NAME 
+`define RZ7X60

@@ -1,0 +1,2 @@
+`define MODULE_NAME Idle
+`define RZ7X60

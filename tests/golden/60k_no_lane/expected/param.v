@@ -1,0 +1,1 @@
+parameter q0_refclk1_freq = 100;

@@ -1,0 +1,12 @@
+`define Q0_LN0
+`define Q0_LN0_TX_PMA_WIDTH 20
+`define Q0_LN0_RX_PMA_WIDTH 0
+`define Q0_LN0_TX_GEARBOX 1
+`define Q0_LN0_RX_GEARBOX 2
+`define Q0_LN0_WORD_ALIGN
+`define Q0_LN0_CHANNEL_BONDING_MASTER_SEL 0
+`define Q0_LN0_TX_IF_MST_SEL 0
+`define Q0_LN0_CTC_MASTER_SEL 0
+`define MODULE_NAME 7
+`define DRP
+`define RZ7X60
