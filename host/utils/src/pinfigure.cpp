@@ -6,14 +6,11 @@ PinFigure::PinFigure(const QString& name, int direction, bool bus, Qt::Alignment
     : m_name(name)
     , m_direction(direction)
     , m_bus(bus)
-    , m_alignment(alignment)
-{
-}
+    , m_alignment(alignment) {}
 
-bool operator==(const PinFigure& a, const PinFigure& b)
-{
-    return a.name() == b.name() && a.direction() == b.direction() && a.isBus() == b.isBus()
-           && a.alignment() == b.alignment();
+bool operator==(const PinFigure& a, const PinFigure& b) {
+    return a.name() == b.name() && a.direction() == b.direction() && a.isBus() == b.isBus() &&
+           a.alignment() == b.alignment();
 }
 
 } // namespace Utils
