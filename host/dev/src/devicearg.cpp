@@ -4,8 +4,6 @@ namespace DEV {
 
 DeviceArg::DeviceArg(const QString& id, const QString& device)
     : m_id(id)
-    , m_device(device)
-{
-}
+    , m_device(device) {}
 
 } // namespace DEV
