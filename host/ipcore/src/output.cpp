@@ -22,6 +22,11 @@ QString& root() {
     return folder;
 }
 
+OutputLog& logged() {
+    static OutputLog log;
+    return log;
+}
+
 /// The path without links, as far as it exists; the rest as it stands.
 QString realPath(const QString& path) {
     QString rest;
@@ -85,6 +90,14 @@ QString outputRoot() {
     return root();
 }
 
+void startOutputLog() {
+    logged() = OutputLog();
+}
+
+OutputLog outputLog() {
+    return logged();
+}
+
 bool makeDirs(const QString& folder, const QString& ipName) {
     const QString prefix = ipName.isEmpty() ? QString() : ipName + QStringLiteral(": ");
     const QString flaw = flawOf(folder);
@@ -105,6 +118,7 @@ bool makeDirs(const QString& folder, const QString& ipName) {
                                              .arg(QString::fromLocal8Bit(why.c_str())));
         }
         if (end < 0) {
+            logged().folders.append(folder);
             return true;
         }
     }
@@ -126,7 +140,11 @@ bool generateFile(const QString& path, const QStringList& lines, QWidget* /*pare
         bytes += '\n';
     }
     const Utils::FileResult result = Utils::replaceFile(path, bytes);
-    return result.ok || refuse(path, result.reason);
+    if (!result.ok) {
+        return refuse(path, result.reason);
+    }
+    logged().files.append(path);
+    return true;
 }
 
 } // namespace IPCore

@@ -42,4 +42,13 @@ HOST_IPCORE_EXPORT bool makeDirs(const QString& folder, const QString& ipName);
 HOST_IPCORE_EXPORT bool generateFile(const QString& path, const QStringList& lines,
                                      QWidget* parent, const QString& header);
 
+/// What makeDirs() and generateFile() have put or found in place, in the order of the calls.
+struct OutputLog {
+    QStringList folders;
+    QStringList files;
+};
+/// Forgets what was logged.
+HOST_IPCORE_EXPORT void startOutputLog();
+HOST_IPCORE_EXPORT OutputLog outputLog();
+
 } // namespace IPCore

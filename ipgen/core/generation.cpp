@@ -1,0 +1,88 @@
+#include "ipgen/core/generation.h"
+
+#include "ipgen/core/errorcollector.h"
+
+#include <ipcore/ipcore.h>
+#include <serdesip/message.h>
+
+#include <QFileInfo>
+
+#include <exception>
+#include <memory>
+
+namespace Ipgen {
+
+namespace {
+
+Status failureOf(const GenerationRequest& request, const ErrorCollector& errors,
+                 const QString& text) {
+    if (!errors.entries().isEmpty()) {
+        // What could not be written is the one kind of failure that libraries report by path.
+        return {Exit::BadOutput, request.instance, errors.suffix().mid(2)};
+    }
+    if (request.config.isEmpty()) {
+        return {Exit::Refused, request.instance, QStringLiteral("the configuration is empty")};
+    }
+    if (request.netlist && !text.isEmpty()) {
+        return {Exit::Tool, request.instance, text};
+    }
+    return {Exit::Refused, request.instance,
+            QStringLiteral("the IP refused to generate this configuration")};
+}
+
+} // namespace
+
+Status checkFileName(const QString& file) {
+    const auto refused = [&](const QString& why) {
+        return Status(Exit::Refused, QStringLiteral("file name \"%1\"").arg(file), why);
+    };
+    if (file.isEmpty()) {
+        return refused(QStringLiteral("the name is empty"));
+    }
+    if (file.contains(QLatin1Char('/')) || file.contains(QLatin1Char('\\'))) {
+        return refused(QStringLiteral("the name has a path separator"));
+    }
+    if (file == QLatin1String(".") || file == QLatin1String("..")) {
+        return refused(QStringLiteral("the name leaves its folder"));
+    }
+    if (file != oneLine(file)) {
+        return refused(QStringLiteral("the name has a control character"));
+    }
+    return {};
+}
+
+GenerationResult generate(const GenerationRequest& request) {
+    GenerationResult result;
+    result.script = request.script;
+    result.options = request.options;
+    const ErrorCollector errors;
+    IPCore::startOutputLog();
+    try {
+        request.protocol->setDevice(request.device);
+        const std::unique_ptr<IPSERDESIP::Message> message(
+            request.protocol->resourceMessage(request.config));
+        const Status named = checkFileName(message ? message->file : QString());
+        if (!named.ok()) {
+            result.status = {Exit::Refused, request.instance,
+                             request.config.isEmpty() ? QStringLiteral("the configuration is empty")
+                                                      : named.text()};
+            return result;
+        }
+        result.ok = request.protocol->generate(request.config, result.script, QString(),
+                                               result.options, result.text, request.netlist);
+    } catch (const std::exception& fault) {
+        result.status = {Exit::Fault, request.instance,
+                         QStringLiteral("the generation threw an exception: %1")
+                             .arg(QString::fromLocal8Bit(fault.what()))};
+    }
+    const IPCore::OutputLog log = IPCore::outputLog();
+    result.files = log.files;
+    result.folder =
+        log.files.isEmpty() ? log.folders.value(0) : QFileInfo(log.files.first()).path();
+    if (!result.ok && result.status.ok()) {
+        result.status = failureOf(request, errors, result.text);
+    }
+    return result;
+}
+
+} // namespace Ipgen
