@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLatin1String>
+#include <QString>
+
+#include <algorithm>
+#include <array>
+
+namespace IPCUSTOMIZED {
+
+/// Devices differ in what they offer by class. Every model that is not listed is of the 138k class.
+enum class DeviceClass { K60, K15, K138 };
+
+constexpr std::array<QLatin1String, 2> models60k{QLatin1String("RZ7X-60B"),
+                                                 QLatin1String("RZ7X-60ES")};
+constexpr std::array<QLatin1String, 6> models15k{
+    QLatin1String("RZ7X-15A"), QLatin1String("RZ7XR-15A"), QLatin1String("RZ7XR-15B"),
+    QLatin1String("RZ7X-15B"), QLatin1String("RZ7NX-15A"), QLatin1String("RZ7NXR-15A")};
+
+/// @param model  the device's model name; the case matters
+inline DeviceClass deviceClass(const QString& model) {
+    const auto listed = [&](const auto& models) {
+        return std::any_of(models.begin(), models.end(),
+                           [&](QLatin1String name) { return model == name; });
+    };
+    if (listed(models60k)) {
+        return DeviceClass::K60;
+    }
+    return listed(models15k) ? DeviceClass::K15 : DeviceClass::K138;
+}
+
+/// The listed devices have one quad, an operation mode, and separate widths and codings.
+constexpr bool isListed(DeviceClass device) {
+    return device != DeviceClass::K138;
+}
+
+} // namespace IPCUSTOMIZED
