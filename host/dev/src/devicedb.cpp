@@ -2,9 +2,8 @@
 
 #include "devicereader.h"
 
+#include <utils/filereplace.h>
 #include <utils/jsontext.h>
-
-#include <QFile>
 
 #include <algorithm>
 
@@ -21,14 +20,9 @@ DeviceDb::DeviceDb(const QList<DeviceInfo>& devices) {
 }
 
 DeviceDb DeviceDb::load(const QString& path, QString* error) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
-        return {};
-    }
-    const QByteArray text = file.readAll();
-    if (file.error() != QFile::NoError) {
-        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    QByteArray text;
+    if (const Utils::FileResult read = Utils::readFile(path, &text); !read) {
+        *error = QStringLiteral("%1: %2").arg(read.path, read.reason);
         return {};
     }
     QVariant root;

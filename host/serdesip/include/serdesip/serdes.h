@@ -4,6 +4,7 @@
 #include "serdesip/message.h"
 
 #include <dev/devicearg.h>
+#include <dev/deviceinfo.h>
 
 #include <QMap>
 #include <QString>
@@ -51,6 +52,18 @@ public:
 private:
     bool m_inUse = false;
     double m_frequency = 0.0;
+};
+
+/// What the last checkRoute() asked for one lane, until resetLane().
+struct HOST_SERDESIP_EXPORT LaneRoute {
+    QString pll;               ///< the lane's PLL by kind ("QPLL0"); empty: no route is recorded
+    QString pllReference;      ///< host name of the pin that feeds the PLL; empty: unknown
+    double pllFrequency = 0.0; ///< MHz; 0: unknown
+    QString rxReference;       ///< the same for the receiver; the PLL's where it has no own
+    double rxFrequency = 0.0;  ///< MHz; 0: unknown
+    bool granted = false;      ///< whether the route was found and is held
+
+    bool isNull() const { return pll.isEmpty(); }
 };
 
 /// The transceiver resource model of the open project: who holds what on the device. Built from
@@ -105,7 +118,7 @@ public:
     bool checkRoute(const QStringList& lanes, const QString& pll, const QStringList& muxSources,
                     const QList<double>& muxFrequencies, const QString& pllSource,
                     const QString& rxSource);
-    /// Releases what checkRoute() held for a lane (caption).
+    /// Releases what checkRoute() recorded for a lane (caption), whatever the mode.
     void resetLane(const QString& lane, int mode);
 
     // --- what the host itself does -----------------------------------------------------------
@@ -114,6 +127,8 @@ public:
     void openProject(const DEV::DeviceArg& device, const QString& workingDir,
                      const QMap<QString, QVariant>& data);
     const DEV::DeviceArg& device() const;
+    /// What the device database knew of the device when the project was opened; may be null.
+    std::shared_ptr<const DEV::DeviceInfo> deviceInfo() const;
     /// Enters or replaces what an instance (by its name in the project) holds.
     void setMessage(const QString& owner, const Message& message);
     void removeMessage(const QString& owner);
@@ -122,12 +137,18 @@ public:
     QString editing() const;
     /// The messages by owner.
     QMap<QString, Message> messages() const;
+    /// Who holds a resource, by name: a lane (caption), PLL, multiplexer or pin. The instance being
+    /// edited is left out. First to last by name; `limit` bounds the list (0: all).
+    QStringList owners(const QString& resource, int limit = 0) const;
+    /// What checkRoute() recorded for a lane (caption).
+    LaneRoute route(const QString& lane) const;
     /// Whether setData() has changed the store since openProject() or clearDataChanged().
     bool dataChanged() const;
     void clearDataChanged();
 
-    /// Why the last route, access or generation attempt failed, one sentence a line: the
-    /// resource, its owner, the limit, the nearest thing that would work.
+    /// Why route, access and generation attempts have failed since clearDetails(), one sentence a
+    /// line, none twice: the resource, its owner, the limit, the nearest thing that would work. A
+    /// generation that succeeds clears them.
     QStringList details() const;
     void addDetail(const QString& sentence);
     void clearDetails();
