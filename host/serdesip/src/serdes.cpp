@@ -82,9 +82,9 @@ void serdes::setData(const QString& key, const QVariant& value) {
 }
 
 QStringList serdes::notOccupiedLanes() const {
-    QStringList lanes = d->info ? d->info->laneCaptions() : QStringList();
+    const QStringList lanes = d->info ? d->info->laneCaptions() : QStringList();
     QStringList unoccupied;
-    for (const QString& lane : std::as_const(lanes)) {
+    for (const QString& lane : lanes) {
         if (d->other(lane).owner.isEmpty() && !d->routes.value(lane).granted) {
             unoccupied.append(lane);
         }
@@ -130,11 +130,13 @@ QMap<QString, QVariant> serdes::getMessageByPLL(const QString& pll) const {
 
 void serdes::openProject(const DEV::DeviceArg& device, const QString& workingDir,
                          const QMap<QString, QVariant>& data) {
-    d = std::make_unique<Private>();
-    d->device = device;
-    d->info = Core::IdeCore::deviceDataBase().info(device);
-    d->workingDir = workingDir;
-    d->data = data;
+    // Built aside: the arguments may be parts of the project that ends here.
+    auto fresh = std::make_unique<Private>();
+    fresh->device = device;
+    fresh->info = Core::IdeCore::deviceDataBase().info(device);
+    fresh->workingDir = workingDir;
+    fresh->data = data;
+    d = std::move(fresh);
     d->createResources();
 }
 
