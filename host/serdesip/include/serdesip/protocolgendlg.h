@@ -69,6 +69,8 @@ protected:
     /// False when the module name cannot be used; the user is told.
     bool checkModuleName();
 
+    bool event(QEvent* event) override;
+
     /// The IP's help document, a path below the IP's data folder.
     QString m_helpDocument;
     /// The lanes (captions) last handed to serdes::checkRoute().

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtGlobal>
+
+class QComboBox;
+class QDialog;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QTabBar;
+class QTabWidget;
+
+namespace IPSERDESIP {
+
+class ElidedLabel;
+class FigureView;
+
+/// The widgets of a protocol dialog around the IP's pages. All belong to the dialog.
+struct DialogFrame {
+    QLabel* label = nullptr;
+    QLabel* deviceName = nullptr;
+    QLineEdit* fileName = nullptr;
+    QLineEdit* moduleName = nullptr;
+    QComboBox* synthesisTool = nullptr;
+    QComboBox* language = nullptr;
+    QLineEdit* createIn = nullptr;
+    QTabBar* tabBar = nullptr;
+    QTabWidget* tabs = nullptr;
+    QLabel* portCount = nullptr;
+    FigureView* figure = nullptr;
+    QPlainTextEdit* details = nullptr;
+    ElidedLabel* strip = nullptr;
+    QDialogButtonBox* buttons = nullptr;
+    QPushButton* help = nullptr;
+
+    /// Builds and lays out the frame in the dialog.
+    void build(QDialog& dialog);
+};
+
+} // namespace IPSERDESIP
