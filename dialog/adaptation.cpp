@@ -88,35 +88,31 @@ void customizeddlg::adaptLanes() {
     }
 }
 
-void customizeddlg::takeOut(QGridLayout* grid, QWidget* member) {
-    takeOutRow(*grid, *member);
-}
-
 void customizeddlg::adaptPages() {
     const customized_tab1& clocks = m_forms->tab1;
     const customized_tab2& widths = m_forms->tab2;
     const auto takeOutClocks = [&](std::initializer_list<QWidget*> members) {
         for (QWidget* member : members) {
-            takeOut(clocks.gridLayout_3, member);
+            takeOutRow(*clocks.gridLayout_3, *member);
         }
     };
     switch (m_class) {
     case DeviceClass::K60:
         takeOutClocks({clocks.GpioFrequency, clocks.MclkFrequency});
-        takeOut(widths.gridLayout, widths.comboBoxInternalDataWidth);
+        takeOutRow(*widths.gridLayout, *widths.comboBoxInternalDataWidth);
         break;
     case DeviceClass::K15:
         takeOutClocks({clocks.comboBoxRefMux2Source, clocks.comboBoxRefMux3Source,
                        clocks.CombBoxRxRefSource});
         clocks.GpioFrequency->setText(rules::defaultInputFrequency);
         clocks.MclkFrequency->setText(rules::defaultInputFrequency);
-        takeOut(widths.gridLayout, widths.comboBoxInternalDataWidth);
+        takeOutRow(*widths.gridLayout, *widths.comboBoxInternalDataWidth);
         break;
     case DeviceClass::K138:
         takeOutClocks({clocks.GpioFrequency, clocks.MclkFrequency, clocks.comboBoxRefMux2Source,
                        clocks.comboBoxRefMux3Source});
-        takeOut(widths.gridLayout, widths.comboBoxTXInternalDataWidth);
-        takeOut(widths.gridLayout, widths.comboBoxRXInternalDataWidth);
+        takeOutRow(*widths.gridLayout, *widths.comboBoxTXInternalDataWidth);
+        takeOutRow(*widths.gridLayout, *widths.comboBoxRXInternalDataWidth);
         widths.groupBox_txrxmode->hide();
         break;
     }

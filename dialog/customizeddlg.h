@@ -87,7 +87,6 @@ private:
     void fillBonding();
     void fillClockCorrection();
     void fillAnalog();
-    void takeOut(QGridLayout* grid, QWidget* member);
 
     // Lanes
     void rebuildSelectedLanes();
@@ -107,7 +106,6 @@ private:
     void freePll();
     bool pinConflicts(const QString& source, const QString& frequency) const;
     bool checkReferencePins();
-    bool muxesFitRouting();
     void holdRoutes();
     bool reachesPll(const QString& quad) const;
     bool reachesReceiver(const QString& quad) const;

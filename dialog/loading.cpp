@@ -115,6 +115,10 @@ void customizeddlg::settleFields(const ConfigMap& config) {
         if (field.field.kind != FieldKind::Value || isFixedByOthers(field)) {
             continue;
         }
+        if (field.field.key == Key::TxRateRatio) {
+            loadRatio(config);
+            continue;
+        }
         const QVariant saved = config.value(field.field.key);
         const QVariant shown = fieldValue(field);
         const bool same = shown.type() == QVariant::Bool ? shown.toBool() == saved.toBool()

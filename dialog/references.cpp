@@ -233,7 +233,7 @@ void customizeddlg::onOperationModeChanged() {
     }
 }
 
-bool customizeddlg::muxesFitRouting() {
+bool customizeddlg::checkRefClkFreqisRepeat() {
     std::vector<rules::MuxSetting> muxes;
     for (int mux = 0; mux < rules::muxCount(m_class); ++mux) {
         const auto at = static_cast<std::size_t>(mux);
@@ -253,10 +253,6 @@ bool customizeddlg::muxesFitRouting() {
         break;
     }
     return false;
-}
-
-bool customizeddlg::checkRefClkFreqisRepeat() {
-    return muxesFitRouting();
 }
 
 } // namespace IPCUSTOMIZED
