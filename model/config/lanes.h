@@ -17,8 +17,9 @@ struct Lane {
 };
 
 /// The eight lanes in their fixed order, quad 0 first. A lane's place is its index in options.
+/// One table in the whole library (hence inline): laneIndex() counts from its beginning.
 // clang-format off
-constexpr std::array<Lane, 8> lanes{{
+inline constexpr std::array<Lane, 8> lanes{{
     {QLatin1String("Q0_LN0"), QLatin1String("Q0 Lane0"), QLatin1String("q0_ln0"), 0},
     {QLatin1String("Q0_LN1"), QLatin1String("Q0 Lane1"), QLatin1String("q0_ln1"), 0},
     {QLatin1String("Q0_LN2"), QLatin1String("Q0 Lane2"), QLatin1String("q0_ln2"), 0},
@@ -28,9 +29,9 @@ constexpr std::array<Lane, 8> lanes{{
     {QLatin1String("Q1_LN2"), QLatin1String("Q1 Lane2"), QLatin1String("q1_ln2"), 1},
     {QLatin1String("Q1_LN3"), QLatin1String("Q1 Lane3"), QLatin1String("q1_ln3"), 1},
 }};
-constexpr std::array<QLatin1String, 2> quadPrefixes{QLatin1String("q0"), QLatin1String("q1")};
+inline constexpr std::array<QLatin1String, 2> quadPrefixes{QLatin1String("q0"), QLatin1String("q1")};
 /// What the captions of a quad's lanes begin with.
-constexpr std::array<QLatin1String, 2> quadCaptions{QLatin1String("Q0"), QLatin1String("Q1")};
+inline constexpr std::array<QLatin1String, 2> quadCaptions{QLatin1String("Q0"), QLatin1String("Q1")};
 // clang-format on
 
 /// The lane with this caption; null when no lane has it.
