@@ -20,8 +20,7 @@ const QVariant kAbsent;
 const QString kClock = QStringLiteral("q0_refclk0_freq 125");
 const QString kClockParameter = QStringLiteral("parameter q0_refclk0_freq = 125;");
 
-Edits clocks(const QStringList& script, const QStringList& parameters)
-{
+Edits clocks(const QStringList& script, const QStringList& parameters) {
     return {{kClock, script}, {kClockParameter, parameters}};
 }
 
@@ -59,17 +58,18 @@ private:
     Harness m_host;
 };
 
-void DriverTest::initTestCase()
-{
+void DriverTest::initTestCase() {
     QVERIFY2(m_host.error().isEmpty(), qPrintable(m_host.error()));
 }
 
-void DriverTest::check()
-{
+void DriverTest::check() {
     QFETCH(LineRow, row);
     const QString problem = rowProblem(m_host, row);
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
 }
+
+// The tables: one row a line.
+// clang-format off
 
 void DriverTest::referenceClocks_data()
 {
@@ -308,8 +308,9 @@ void DriverTest::callersLines_data()
     addRow("a held line is neither moved nor removed", k138, {}, {}, {}, {kClock, "q0_ln0_trigger_bonding_ctrl fabric"}, {"-Link0EnableDRP false"});
 }
 
-void DriverTest::emptyConfigurationWritesNothing()
-{
+// clang-format on
+
+void DriverTest::emptyConfigurationWritesNothing() {
     QTemporaryDir folder;
     m_host.openProject(folder.path());
     const auto model = m_host.model();
@@ -324,8 +325,7 @@ void DriverTest::emptyConfigurationWritesNothing()
     QVERIFY(QDir(folder.path()).isEmpty());
 }
 
-void DriverTest::ownDeviceComesBeforeTheConfigurations()
-{
+void DriverTest::ownDeviceComesBeforeTheConfigurations() {
     m_host.openProject(m_host.workingDir());
     const auto model = m_host.model();
     model->setDevice(DEV::DeviceArg(deviceId("RZ7X-15A"), "RZ7X-15A"));
@@ -338,8 +338,7 @@ void DriverTest::ownDeviceComesBeforeTheConfigurations()
     QCOMPARE(options, goldenLines(k15, "options.txt"));
 }
 
-void DriverTest::deviceIsLookedUpOnce()
-{
+void DriverTest::deviceIsLookedUpOnce() {
     m_host.openProject(m_host.workingDir());
     const auto model = m_host.model();
     QVERIFY(model->device().isNull());
@@ -360,8 +359,7 @@ void DriverTest::deviceIsLookedUpOnce()
     QCOMPARE(script, goldenLines(k60, "customized.ini"));
 }
 
-void DriverTest::threeFilesAndNoMore()
-{
+void DriverTest::threeFilesAndNoMore() {
     QTemporaryDir folder;
     m_host.openProject(folder.path());
     auto config = goldenConfig(k60);
@@ -370,15 +368,15 @@ void DriverTest::threeFilesAndNoMore()
     QVERIFY(result.ok);
     const QString output = folder.path() + QString::fromUtf8("/a %1 é.v/temp/CUSTOMIZED");
     QCOMPARE(result.folder, output);
-    QCOMPARE(QDir(output).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
-             (QStringList{"customized.ini", "define.vh", "param.v"}));
+    QCOMPARE(
+        QDir(output).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
+        (QStringList{"customized.ini", "define.vh", "param.v"}));
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList{QString::fromUtf8("a %1 é.v")});
     QVERIFY(m_host.takeErrors().isEmpty());
 }
 
-void DriverTest::textIsLeftAloneWithoutNetlist()
-{
+void DriverTest::textIsLeftAloneWithoutNetlist() {
     m_host.openProject(m_host.workingDir());
     QStringList script;
     QStringList options;
@@ -387,8 +385,7 @@ void DriverTest::textIsLeftAloneWithoutNetlist()
     QCOMPARE(text, QString("as it was"));
 }
 
-void DriverTest::listsKeepTheirLinesWhenTheFolderFails()
-{
+void DriverTest::listsKeepTheirLinesWhenTheFolderFails() {
     QTemporaryDir folder;
     QFile obstacle(folder.path() + "/link0");
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
@@ -403,8 +400,7 @@ void DriverTest::listsKeepTheirLinesWhenTheFolderFails()
     QCOMPARE(fileBytes(obstacle.fileName()), QByteArray("a file where the folder should be"));
 }
 
-void DriverTest::secondRunGivesTheSameBytes()
-{
+void DriverTest::secondRunGivesTheSameBytes() {
     m_host.openProject(m_host.workingDir());
     const auto config = goldenConfig("138k_eight_lanes");
     const Harness::Result first = m_host.generate(config);

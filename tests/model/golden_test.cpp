@@ -16,13 +16,11 @@ constexpr int kCases = 39;
 
 const QStringList kFiles{"define.vh", "param.v", "customized.ini"};
 
-QStringList texts(const QJsonValue& list)
-{
+QStringList texts(const QJsonValue& list) {
     return list.toVariant().toStringList();
 }
 
-QByteArray asFile(const QStringList& lines)
-{
+QByteArray asFile(const QStringList& lines) {
     QByteArray bytes;
     for (const QString& line : lines) {
         bytes += line.toUtf8() + '\n';
@@ -30,13 +28,11 @@ QByteArray asFile(const QStringList& lines)
     return bytes;
 }
 
-bool updating()
-{
+bool updating() {
     return qEnvironmentVariableIntValue("GOLDEN_UPDATE") == 1;
 }
 
-void writeFile(const QString& path, const QByteArray& bytes)
-{
+void writeFile(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
@@ -73,8 +69,7 @@ private:
     QStringList m_order;
 };
 
-QList<QJsonObject> GoldenTest::emitAll(const QString& out, const QStringList& more)
-{
+QList<QJsonObject> GoldenTest::emitAll(const QString& out, const QStringList& more) {
     QByteArray input;
     for (const GoldenCase& golden : m_cases) {
         input += golden.input + '\n';
@@ -86,8 +81,8 @@ QList<QJsonObject> GoldenTest::emitAll(const QString& out, const QStringList& mo
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     program.start(BUILD_DIR "/bin/ipgen",
                   QStringList{"emit", "--batch", batch, "--out", out, "--report", report} + more);
-    if (!program.waitForFinished(120000) || program.exitStatus() != QProcess::NormalExit
-        || program.exitCode() != 0) {
+    if (!program.waitForFinished(120000) || program.exitStatus() != QProcess::NormalExit ||
+        program.exitCode() != 0) {
         qWarning("ipgen emit: %s, exit status %d", qPrintable(program.errorString()),
                  program.exitCode());
         return {};
@@ -101,15 +96,13 @@ QList<QJsonObject> GoldenTest::emitAll(const QString& out, const QStringList& mo
     return reports;
 }
 
-QString GoldenTest::outputFolder(const GoldenCase& golden, const QString& out) const
-{
+QString GoldenTest::outputFolder(const GoldenCase& golden, const QString& out) const {
     return QStringList{out, golden.name, goldenConfig(golden.name).value("file").toString(), "temp",
                        "CUSTOMIZED"}
         .join('/');
 }
 
-void GoldenTest::initTestCase()
-{
+void GoldenTest::initTestCase() {
     m_cases = goldenCases();
     QCOMPARE(m_cases.size(), kCases);
     m_out = m_scratch.filePath("out");
@@ -123,38 +116,39 @@ void GoldenTest::initTestCase()
     }
     for (const GoldenCase& golden : qAsConst(m_cases)) {
         for (const QString& file : kFiles) {
-            writeFile(golden.expectedPath(file), fileBytes(outputFolder(golden, m_out) + '/' + file));
+            writeFile(golden.expectedPath(file),
+                      fileBytes(outputFolder(golden, m_out) + '/' + file));
         }
-        writeFile(golden.expectedPath("options.txt"), asFile(texts(m_reports.value(golden.name).value("options"))));
+        writeFile(golden.expectedPath("options.txt"),
+                  asFile(texts(m_reports.value(golden.name).value("options"))));
     }
     qWarning("expected files rewritten: read the difference line by line before committing it");
 }
 
-void GoldenTest::casesAreComplete()
-{
+void GoldenTest::casesAreComplete() {
     for (const GoldenCase& golden : qAsConst(m_cases)) {
-        QCOMPARE(QDir(golden.folder + "/expected").entryList(QDir::Files | QDir::Hidden, QDir::Name),
-                 (QStringList{"customized.ini", "define.vh", "options.txt", "param.v"}));
+        QCOMPARE(
+            QDir(golden.folder + "/expected").entryList(QDir::Files | QDir::Hidden, QDir::Name),
+            (QStringList{"customized.ini", "define.vh", "options.txt", "param.v"}));
         const QJsonDocument document = QJsonDocument::fromJson(golden.input);
         QCOMPARE(document.object().value("name").toString(), golden.name);
         for (const QString& file : kFiles + QStringList{"options.txt"}) {
             const QByteArray expected = fileBytes(golden.expectedPath(file));
-            QVERIFY2(expected.isEmpty() || expected.endsWith('\n'), qPrintable(golden.expectedPath(file)));
+            QVERIFY2(expected.isEmpty() || expected.endsWith('\n'),
+                     qPrintable(golden.expectedPath(file)));
             QVERIFY2(!expected.contains('\r'), qPrintable(golden.expectedPath(file)));
         }
     }
 }
 
-void GoldenTest::bytes_data()
-{
+void GoldenTest::bytes_data() {
     QTest::addColumn<QString>("name");
     for (const GoldenCase& golden : qAsConst(m_cases)) {
         QTest::newRow(qPrintable(golden.name)) << golden.name;
     }
 }
 
-void GoldenTest::bytes()
-{
+void GoldenTest::bytes() {
     QFETCH(QString, name);
     const GoldenCase golden = goldenCase(name);
     QVERIFY(m_reports.value(name).value("ok").toBool());
@@ -167,26 +161,27 @@ void GoldenTest::bytes()
         const QList<QByteArray> expectedLines = expected.split('\n');
         for (int i = 0; i < std::min(writtenLines.size(), expectedLines.size()); ++i) {
             QVERIFY2(writtenLines.at(i) == expectedLines.at(i),
-                     QByteArray(file.toUtf8() + ':' + QByteArray::number(i + 1) + ": \"" + writtenLines.at(i) + "\" instead of \"" + expectedLines.at(i) + '"').constData());
+                     QByteArray(file.toUtf8() + ':' + QByteArray::number(i + 1) + ": \"" +
+                                writtenLines.at(i) + "\" instead of \"" + expectedLines.at(i) + '"')
+                         .constData());
         }
         QVERIFY2(written == expected, qPrintable(file));
     }
 }
 
-void GoldenTest::lists()
-{
+void GoldenTest::lists() {
     QFETCH(QString, name);
     QCOMPARE(texts(m_reports.value(name).value("options")), goldenLines(name, "options.txt"));
     QCOMPARE(texts(m_reports.value(name).value("script")), goldenLines(name, "customized.ini"));
 }
 
-void GoldenTest::nothingElseIsWritten()
-{
+void GoldenTest::nothingElseIsWritten() {
     QFETCH(QString, name);
     const GoldenCase golden = goldenCase(name);
     QDir folder(outputFolder(golden, m_out));
     const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    QCOMPARE(folder.entryList(everything, QDir::Name), (QStringList{"customized.ini", "define.vh", "param.v"}));
+    QCOMPARE(folder.entryList(everything, QDir::Name),
+             (QStringList{"customized.ini", "define.vh", "param.v"}));
     for (int level = 0; level < 3; ++level) { // temp, the file's folder, the working folder
         QVERIFY(folder.cdUp());
         QCOMPARE(folder.entryList(everything).size(), 1);
@@ -194,8 +189,7 @@ void GoldenTest::nothingElseIsWritten()
     QCOMPARE(folder.canonicalPath(), QDir(m_out + '/' + name).canonicalPath());
 }
 
-void GoldenTest::reportsStandInInputOrder()
-{
+void GoldenTest::reportsStandInInputOrder() {
     QStringList names;
     for (const GoldenCase& golden : qAsConst(m_cases)) {
         names.append(golden.name);
@@ -203,8 +197,7 @@ void GoldenTest::reportsStandInInputOrder()
     QCOMPARE(m_order, names);
 }
 
-void GoldenTest::moreWorkersGiveTheSame()
-{
+void GoldenTest::moreWorkersGiveTheSame() {
     const QString out = m_scratch.filePath("parallel");
     const QList<QJsonObject> reports = emitAll(out, {"--jobs", "3"});
     QCOMPARE(reports.size(), kCases);
@@ -214,7 +207,9 @@ void GoldenTest::moreWorkersGiveTheSame()
         QCOMPARE(reports.at(i).value("options"), m_reports.value(golden.name).value("options"));
         QCOMPARE(reports.at(i).value("script"), m_reports.value(golden.name).value("script"));
         for (const QString& file : kFiles) {
-            QVERIFY2(fileBytes(outputFolder(golden, out) + '/' + file) == fileBytes(outputFolder(golden, m_out) + '/' + file), qPrintable(golden.name + '/' + file));
+            QVERIFY2(fileBytes(outputFolder(golden, out) + '/' + file) ==
+                         fileBytes(outputFolder(golden, m_out) + '/' + file),
+                     qPrintable(golden.name + '/' + file));
         }
     }
 }

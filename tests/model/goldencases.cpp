@@ -8,15 +8,13 @@
 
 namespace {
 
-QString goldenRoot()
-{
+QString goldenRoot() {
     return QStringLiteral(SOURCE_DIR "/tests/golden");
 }
 
 // Pretty-printed JSON has no line feed inside a text, so taking the indentation away leaves the
 // same document on one line, with every number spelled as before.
-QByteArray onOneLine(const QByteArray& json)
-{
+QByteArray onOneLine(const QByteArray& json) {
     QByteArray line;
     for (const QByteArray& part : json.split('\n')) {
         line += part.trimmed();
@@ -24,8 +22,7 @@ QByteArray onOneLine(const QByteArray& json)
     return line;
 }
 
-GoldenCase readCase(const QString& name)
-{
+GoldenCase readCase(const QString& name) {
     GoldenCase result;
     result.name = name;
     result.folder = goldenRoot() + QLatin1Char('/') + name;
@@ -35,13 +32,11 @@ GoldenCase readCase(const QString& name)
 
 } // namespace
 
-QString GoldenCase::expectedPath(const QString& file) const
-{
+QString GoldenCase::expectedPath(const QString& file) const {
     return folder + QLatin1String("/expected/") + file;
 }
 
-QList<GoldenCase> goldenCases()
-{
+QList<GoldenCase> goldenCases() {
     QList<GoldenCase> cases;
     const QStringList names =
         QDir(goldenRoot()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
@@ -51,13 +46,11 @@ QList<GoldenCase> goldenCases()
     return cases;
 }
 
-GoldenCase goldenCase(const QString& name)
-{
+GoldenCase goldenCase(const QString& name) {
     return readCase(name);
 }
 
-QMap<QString, QVariant> goldenConfig(const QString& name)
-{
+QMap<QString, QVariant> goldenConfig(const QString& name) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(readCase(name).input, &error);
     if (error.error != QJsonParseError::NoError) {
@@ -66,14 +59,14 @@ QMap<QString, QVariant> goldenConfig(const QString& name)
     QMap<QString, QVariant> config;
     const QJsonObject object = document.object().value(QLatin1String("config")).toObject();
     for (auto it = object.begin(); it != object.end(); ++it) {
-        config.insert(it.key(), it.value().isArray() ? QVariant(it.value().toVariant().toStringList())
-                                                     : it.value().toVariant());
+        config.insert(it.key(), it.value().isArray()
+                                    ? QVariant(it.value().toVariant().toStringList())
+                                    : it.value().toVariant());
     }
     return config;
 }
 
-QStringList goldenLines(const QString& name, const QString& file)
-{
+QStringList goldenLines(const QString& name, const QString& file) {
     const QString path = readCase(name).expectedPath(file);
     const QString text = QString::fromUtf8(fileBytes(path));
     if (!text.isEmpty() && !text.endsWith(QLatin1Char('\n'))) {
@@ -84,8 +77,7 @@ QStringList goldenLines(const QString& name, const QString& file)
     return lines;
 }
 
-QByteArray fileBytes(const QString& path)
-{
+QByteArray fileBytes(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));

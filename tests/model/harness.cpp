@@ -6,39 +6,34 @@
 
 #include <QFile>
 
-QString pluginFolder()
-{
+QString pluginFolder() {
     return QStringLiteral(BUILD_DIR "/lib/ipgen/ip/customized");
 }
 
-QString pluginPath()
-{
+QString pluginPath() {
     return pluginFolder() + QLatin1String("/libcustomized.so");
 }
 
-QStringList deviceModels()
-{
-    return {"RZ7X-60B",  "RZ7X-60ES", "RZ7X-15A",   "RZ7XR-15A", "RZ7XR-15B",
-            "RZ7X-15B",  "RZ7NX-15A", "RZ7NXR-15A", "RZ7X-138",  "RZ7X-138B"};
+QStringList deviceModels() {
+    return {"RZ7X-60B", "RZ7X-60ES", "RZ7X-15A",   "RZ7XR-15A", "RZ7XR-15B",
+            "RZ7X-15B", "RZ7NX-15A", "RZ7NXR-15A", "RZ7X-138",  "RZ7X-138B"};
 }
 
-QString deviceId(const QString& model)
-{
+QString deviceId(const QString& model) {
     return QLatin1String("id of ") + model;
 }
 
 namespace {
 
-QByteArray bytesOrNull(const QString& path)
-{
+QByteArray bytesOrNull(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QByteArray("").append(file.readAll()) : QByteArray();
 }
 
 } // namespace
 
-Harness::Harness() : m_loader(pluginPath())
-{
+Harness::Harness()
+    : m_loader(pluginPath()) {
     QList<DEV::DeviceArg> devices;
     for (const QString& model : deviceModels()) {
         devices.append(DEV::DeviceArg(deviceId(model), model));
@@ -56,14 +51,12 @@ Harness::Harness() : m_loader(pluginPath())
     }
 }
 
-Harness::~Harness()
-{
+Harness::~Harness() {
     Core::ViewManager::setErrorSink({});
     Core::IdeCore::setDeviceDataBase({});
 }
 
-std::unique_ptr<IPSERDESIP::BaseProtocol> Harness::model() const
-{
+std::unique_ptr<IPSERDESIP::BaseProtocol> Harness::model() const {
     const QList<IPSERDESIP::BaseProtocol*> models = m_package->protocols();
     if (models.size() != 1) {
         qFatal("%d protocol models instead of one", int(models.size()));
@@ -72,32 +65,29 @@ std::unique_ptr<IPSERDESIP::BaseProtocol> Harness::model() const
 }
 
 Harness::Result Harness::generate(const IPSERDESIP::ConfigMap& config, const QStringList& script,
-                                  const QStringList& options) const
-{
+                                  const QStringList& options) const {
     Result result;
     result.script = script;
     result.options = options;
-    result.ok = model()->generate(config, result.script, QString(), result.options, result.text,
-                                  false);
-    result.folder = IPSERDESIP::serdes::instance()->workingDir() + QLatin1Char('/')
-        + config.value(QStringLiteral("file")).toString() + QLatin1String("/temp/CUSTOMIZED");
+    result.ok =
+        model()->generate(config, result.script, QString(), result.options, result.text, false);
+    result.folder = IPSERDESIP::serdes::instance()->workingDir() + QLatin1Char('/') +
+                    config.value(QStringLiteral("file")).toString() +
+                    QLatin1String("/temp/CUSTOMIZED");
     result.define = bytesOrNull(result.folder + QLatin1String("/define.vh"));
     result.param = bytesOrNull(result.folder + QLatin1String("/param.v"));
     result.ini = bytesOrNull(result.folder + QLatin1String("/customized.ini"));
     return result;
 }
 
-QString Harness::workingDir() const
-{
+QString Harness::workingDir() const {
     return m_scratch.path();
 }
 
-void Harness::openProject(const QString& workingDir, const QMap<QString, QVariant>& data) const
-{
+void Harness::openProject(const QString& workingDir, const QMap<QString, QVariant>& data) const {
     IPSERDESIP::serdes::instance()->openProject({}, workingDir, data);
 }
 
-QList<QPair<QString, QString>> Harness::takeErrors()
-{
+QList<QPair<QString, QString>> Harness::takeErrors() {
     return std::exchange(m_errors, {});
 }

@@ -66,17 +66,18 @@ private:
     Harness m_host;
 };
 
-void LaneLinesTest::initTestCase()
-{
+void LaneLinesTest::initTestCase() {
     QVERIFY2(m_host.error().isEmpty(), qPrintable(m_host.error()));
 }
 
-void LaneLinesTest::check()
-{
+void LaneLinesTest::check() {
     QFETCH(LineRow, row);
     const QString problem = rowProblem(m_host, row);
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
 }
+
+// The tables: one row a line.
+// clang-format off
 
 void LaneLinesTest::header_data()
 {
@@ -828,6 +829,8 @@ void LaneLinesTest::longTexts_data()
             {"-Link0EnableDRP false", {"-" + withMarks + "EnableDRP false"}},
             {"-Link0DRPPorts false", {"-" + withMarks + "DRPPorts false"}}});
 }
+
+// clang-format on
 
 QTEST_MAIN(LaneLinesTest)
 #include "lane_lines_test.moc"

@@ -9,14 +9,12 @@
 
 void addRow(const QString& name, const QString& base, const Changes& changes, const Edits& edits,
             const QMap<QString, QVariant>& data, const QStringList& callerScript,
-            const QStringList& callerOptions)
-{
+            const QStringList& callerOptions) {
     QTest::newRow(qPrintable(name))
         << LineRow{base, changes, edits, data, callerScript, callerOptions};
 }
 
-QString rowProblem(const Harness& host, const LineRow& row)
-{
+QString rowProblem(const Harness& host, const LineRow& row) {
     QString problem;
     const LineLists expected = editedLists(row, problem);
     if (!problem.isEmpty()) {
@@ -46,8 +44,7 @@ QString rowProblem(const Harness& host, const LineRow& row)
     return {};
 }
 
-QMap<QString, QVariant> changedConfig(const LineRow& row)
-{
+QMap<QString, QVariant> changedConfig(const LineRow& row) {
     QMap<QString, QVariant> config = goldenConfig(row.base);
     for (const auto& [key, value] : row.changes) {
         if (value.isValid()) {
@@ -59,8 +56,7 @@ QMap<QString, QVariant> changedConfig(const LineRow& row)
     return config;
 }
 
-LineLists editedLists(const LineRow& row, QString& problem)
-{
+LineLists editedLists(const LineRow& row, QString& problem) {
     LineLists lists{goldenLines(row.base, "define.vh"), goldenLines(row.base, "param.v"),
                     goldenLines(row.base, "customized.ini"), goldenLines(row.base, "options.txt")};
     for (const auto& [line, instead] : row.edits) {
@@ -77,22 +73,19 @@ LineLists editedLists(const LineRow& row, QString& problem)
             *list = edited;
         }
         if (found != 1) {
-            problem = QStringLiteral("the row's line \"%1\" is there %2 times").arg(line).arg(found);
+            problem =
+                QStringLiteral("the row's line \"%1\" is there %2 times").arg(line).arg(found);
         }
     }
     return lists;
 }
 
-QString difference(const QString& what, const QStringList& actual, const QStringList& expected)
-{
+QString difference(const QString& what, const QStringList& actual, const QStringList& expected) {
     const int common = int(std::min(actual.size(), expected.size()));
     for (int i = 0; i < common; ++i) {
         if (actual.at(i) != expected.at(i)) {
-            return QStringLiteral("%1, line %2: \"")
-                       .arg(what)
-                       .arg(i + 1)
-                + actual.at(i).left(200) + QLatin1String("\" instead of \"")
-                + expected.at(i).left(200) + QLatin1Char('"');
+            return QStringLiteral("%1, line %2: \"").arg(what).arg(i + 1) + actual.at(i).left(200) +
+                   QLatin1String("\" instead of \"") + expected.at(i).left(200) + QLatin1Char('"');
         }
     }
     if (actual.size() != expected.size()) {
@@ -100,8 +93,8 @@ QString difference(const QString& what, const QStringList& actual, const QString
         return QStringLiteral("%1: %2 lines instead of %3; the first without partner: ")
                    .arg(what)
                    .arg(actual.size())
-                   .arg(expected.size())
-            + longer.at(common).left(200);
+                   .arg(expected.size()) +
+               longer.at(common).left(200);
     }
     return {};
 }

@@ -28,9 +28,9 @@ bool answer = true;
 namespace IPSERDESIP {
 
 Q_DECL_EXPORT bool waitForRunSyntheSis(const DEV::DeviceArg& device, const ConfigMap& config,
-                                       const QMap<QString, QVariant>& info, const QStringList& files,
-                                       const QString& folder, QString& text, QObject* parent)
-{
+                                       const QMap<QString, QVariant>& info,
+                                       const QStringList& files, const QString& folder,
+                                       QString& text, QObject* parent) {
     calls.append({device, config, info, files, folder, &text, parent});
     text += QStringLiteral(", seen");
     return answer;
@@ -54,20 +54,17 @@ private:
     Harness m_host;
 };
 
-void NetlistCallTest::initTestCase()
-{
+void NetlistCallTest::initTestCase() {
     QVERIFY2(m_host.error().isEmpty(), qPrintable(m_host.error()));
 }
 
-void NetlistCallTest::init()
-{
+void NetlistCallTest::init() {
     calls.clear();
     answer = true;
     m_host.openProject(m_host.workingDir());
 }
 
-void NetlistCallTest::everythingIsHandedOn()
-{
+void NetlistCallTest::everythingIsHandedOn() {
     auto config = goldenConfig("60k_one_lane");
     config.insert("target_device", deviceId("RZ7X-60ES"));
     const auto model = m_host.model();
@@ -87,30 +84,29 @@ void NetlistCallTest::everythingIsHandedOn()
     QCOMPARE(call.parent, static_cast<QObject*>(model.get()));
     QCOMPARE(call.info.value("ipcore.id").toString(), model->id());
     QCOMPARE(call.info.value("ipcore.name").toString(), model->name());
-    QCOMPARE(QDir(call.info.value("ipcore.dir.data").toString()).absolutePath(), pluginFolder() + "/data");
+    QCOMPARE(QDir(call.info.value("ipcore.dir.data").toString()).absolutePath(),
+             pluginFolder() + "/data");
 }
 
-void NetlistCallTest::theResultIsHandedBack()
-{
+void NetlistCallTest::theResultIsHandedBack() {
     answer = false;
     QStringList script;
     QStringList options;
     QString text;
-    QVERIFY(!m_host.model()->generate(goldenConfig("138k_one_lane"), script, QString(), options, text, true));
+    QVERIFY(!m_host.model()->generate(goldenConfig("138k_one_lane"), script, QString(), options,
+                                      text, true));
     QCOMPARE(calls.size(), 1);
     QCOMPARE(text, QString(", seen"));
     QCOMPARE(script, goldenLines("138k_one_lane", "customized.ini"));
 }
 
-void NetlistCallTest::noCallWithoutTheFlag()
-{
+void NetlistCallTest::noCallWithoutTheFlag() {
     answer = false;
     QVERIFY(m_host.generate(goldenConfig("60k_one_lane")).ok);
     QVERIFY(calls.isEmpty());
 }
 
-void NetlistCallTest::noCallAfterAFailure()
-{
+void NetlistCallTest::noCallAfterAFailure() {
     QStringList script;
     QStringList options;
     QString text;
@@ -120,16 +116,17 @@ void NetlistCallTest::noCallAfterAFailure()
     QFile obstacle(scratch.path() + "/link0");
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
     m_host.openProject(scratch.path());
-    QVERIFY(!m_host.model()->generate(goldenConfig("60k_one_lane"), script, QString(), options, text, true));
+    QVERIFY(!m_host.model()->generate(goldenConfig("60k_one_lane"), script, QString(), options,
+                                      text, true));
     QVERIFY(calls.isEmpty());
 }
 
-void NetlistCallTest::dataFolderIsThePackagesOwn()
-{
+void NetlistCallTest::dataFolderIsThePackagesOwn() {
     QTemporaryDir folder;
     QFile description(folder.path() + "/customized.ipspec");
     QVERIFY(description.open(QIODevice::WriteOnly));
-    description.write(R"({"ipcore": {"id": "a", "name": "b", "version": "c", "dir": {"data": "/elsewhere"}}})");
+    description.write(
+        R"({"ipcore": {"id": "a", "name": "b", "version": "c", "dir": {"data": "/elsewhere"}}})");
     description.close();
 
     const QString former = m_host.package()->packageDir();

@@ -35,8 +35,7 @@ struct Outcome {
     QByteArray output;
 };
 
-Outcome run(const QString& program, const QStringList& arguments, const QString& folder)
-{
+Outcome run(const QString& program, const QStringList& arguments, const QString& folder) {
     QProcess process;
     process.setWorkingDirectory(folder);
     process.setProcessChannelMode(QProcess::MergedChannels);
@@ -66,15 +65,15 @@ private:
     Harness m_host;
 };
 
-void VerilogAcceptanceTest::initTestCase()
-{
+void VerilogAcceptanceTest::initTestCase() {
     QVERIFY2(m_host.error().isEmpty(), qPrintable(m_host.error()));
-    QVERIFY2(!QStandardPaths::findExecutable("iverilog").isEmpty(), "Icarus Verilog (iverilog) is not installed");
-    QVERIFY2(!QStandardPaths::findExecutable("verilator").isEmpty(), "Verilator (verilator) is not installed");
+    QVERIFY2(!QStandardPaths::findExecutable("iverilog").isEmpty(),
+             "Icarus Verilog (iverilog) is not installed");
+    QVERIFY2(!QStandardPaths::findExecutable("verilator").isEmpty(),
+             "Verilator (verilator) is not installed");
 }
 
-void VerilogAcceptanceTest::readersTakeIt_data()
-{
+void VerilogAcceptanceTest::readersTakeIt_data() {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isVerilog");
     for (const GoldenCase& golden : goldenCases()) {
@@ -85,9 +84,12 @@ void VerilogAcceptanceTest::readersTakeIt_data()
 namespace {
 
 /// Generates a case and puts a module around its two files, in the folder that they are in.
-QString holderFor(const Harness& host, const QString& name, const QByteArray& body)
-{
-    host.openProject(host.workingDir() + '/' + name, QJsonDocument::fromJson(goldenCase(name).input).object().value("data").toObject().toVariantMap());
+QString holderFor(const Harness& host, const QString& name, const QByteArray& body) {
+    host.openProject(host.workingDir() + '/' + name, QJsonDocument::fromJson(goldenCase(name).input)
+                                                         .object()
+                                                         .value("data")
+                                                         .toObject()
+                                                         .toVariantMap());
     auto config = goldenConfig(name);
     const Harness::Result result = host.generate(config);
     if (!result.ok) {
@@ -97,22 +99,25 @@ QString holderFor(const Harness& host, const QString& name, const QByteArray& bo
     if (!holder.open(QIODevice::WriteOnly)) {
         return {};
     }
-    holder.write("`include \"define.vh\"\nmodule holder;\n`include \"param.v\"\n" + body + "endmodule\n");
+    holder.write("`include \"define.vh\"\nmodule holder;\n`include \"param.v\"\n" + body +
+                 "endmodule\n");
     return result.folder;
 }
 
 } // namespace
 
-void VerilogAcceptanceTest::readersTakeIt()
-{
+void VerilogAcceptanceTest::readersTakeIt() {
     QFETCH(QString, name);
     QFETCH(bool, isVerilog);
     const QString folder = holderFor(m_host, name, {});
     QVERIFY(!folder.isEmpty());
 
-    const Outcome icarus = run("iverilog", {"-t", "null", "-g2005-sv", "-Wall", "holder.v"}, folder);
+    const Outcome icarus =
+        run("iverilog", {"-t", "null", "-g2005-sv", "-Wall", "holder.v"}, folder);
     QVERIFY2((icarus.status == 0) == isVerilog, icarus.output.constData());
-    const Outcome verilator = run("verilator", QStringList{"--lint-only", "-Wall"} + kWaivers + QStringList{"holder.v"}, folder);
+    const Outcome verilator =
+        run("verilator", QStringList{"--lint-only", "-Wall"} + kWaivers + QStringList{"holder.v"},
+            folder);
     QVERIFY2((verilator.status == 0) == isVerilog, verilator.output.constData());
     if (isVerilog) {
         // Not a word, not even a warning.
@@ -121,8 +126,7 @@ void VerilogAcceptanceTest::readersTakeIt()
     }
 }
 
-void VerilogAcceptanceTest::parametersHoldTheirValues()
-{
+void VerilogAcceptanceTest::parametersHoldTheirValues() {
     // Elaborated and run, not only parsed.
     const QByteArray body =
         "initial begin\n"
