@@ -4,7 +4,9 @@
 #include <core/viewmanager.h>
 #include <serdesip/serdes.h>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 QString pluginFolder() {
     return QStringLiteral(BUILD_DIR "/lib/ipgen/ip/customized");
@@ -25,6 +27,14 @@ QString deviceId(const QString& model) {
 
 namespace {
 
+/// In memory where there is such a folder: a generation syncs each file to its disk, and the
+/// tables run hundreds of them.
+QString scratchTemplate() {
+    const QFileInfo memory(QStringLiteral("/dev/shm"));
+    return (memory.isDir() && memory.isWritable() ? memory.filePath() : QDir::tempPath()) +
+           QLatin1String("/ipgen-test-XXXXXX");
+}
+
 QByteArray bytesOrNull(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QByteArray("").append(file.readAll()) : QByteArray();
@@ -33,7 +43,8 @@ QByteArray bytesOrNull(const QString& path) {
 } // namespace
 
 Harness::Harness()
-    : m_loader(pluginPath()) {
+    : m_loader(pluginPath())
+    , m_scratch(scratchTemplate()) {
     QList<DEV::DeviceArg> devices;
     for (const QString& model : deviceModels()) {
         devices.append(DEV::DeviceArg(deviceId(model), model));
