@@ -13,11 +13,11 @@ constexpr bool isMainTapValid(int c0) {
     return c0 > 20;
 }
 
-constexpr int defaultBias = 7;
+inline constexpr int defaultBias = 7;
 
 /// Receive equalisation in "Auto".
-constexpr int automaticAtt = 7;
-constexpr int automaticBoost = 9;
+inline constexpr int automaticAtt = 7;
+inline constexpr int automaticBoost = 9;
 
 /// Whose stored bias the selected lanes take over.
 enum class BiasFrom { Default, Quad0, Quad1 };

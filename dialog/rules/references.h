@@ -10,9 +10,9 @@
 namespace IPCUSTOMIZED::rules {
 
 /// What a free reference runs at until the user says otherwise, MHz.
-constexpr QLatin1String defaultFrequency("125");
+inline constexpr QLatin1String defaultFrequency("125");
 /// The same for the GPIO and MCLK inputs.
-constexpr QLatin1String defaultInputFrequency("50");
+inline constexpr QLatin1String defaultInputFrequency("50");
 
 /// How many reference multiplexers the class has in a quad.
 int muxCount(DeviceClass device);

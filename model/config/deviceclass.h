@@ -11,9 +11,9 @@ namespace IPCUSTOMIZED {
 /// Devices differ in what they offer by class. Every model that is not listed is of the 138k class.
 enum class DeviceClass { K60, K15, K138 };
 
-constexpr std::array<QLatin1String, 2> models60k{QLatin1String("RZ7X-60B"),
+inline constexpr std::array<QLatin1String, 2> models60k{QLatin1String("RZ7X-60B"),
                                                  QLatin1String("RZ7X-60ES")};
-constexpr std::array<QLatin1String, 6> models15k{
+inline constexpr std::array<QLatin1String, 6> models15k{
     QLatin1String("RZ7X-15A"), QLatin1String("RZ7XR-15A"), QLatin1String("RZ7XR-15B"),
     QLatin1String("RZ7X-15B"), QLatin1String("RZ7NX-15A"), QLatin1String("RZ7NXR-15A")};
 

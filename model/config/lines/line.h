@@ -28,8 +28,8 @@ struct LineWriter {
     bool cdrByDevice = true;
 };
 
-constexpr LineWriter generationWriter{};
-constexpr LineWriter dialogWriter{true, false, false, false};
+inline constexpr LineWriter generationWriter{};
+inline constexpr LineWriter dialogWriter{true, false, false, false};
 
 /// What a line's value and condition are computed from; the same for every lane.
 struct LineSource {
