@@ -1,0 +1,20 @@
+#include "ipgen/cli/commands.h"
+
+namespace Ipgen {
+
+std::vector<std::unique_ptr<Command>> makeCommands() {
+    std::vector<std::unique_ptr<Command>> commands;
+    for (const auto make : {
+             makeCatalogCommand,
+             makeDevicesCommand,
+             makeNewCommand,
+             makeListCommand,
+             makeGenerateCommand,
+             makeRemoveCommand,
+         }) {
+        commands.push_back(make());
+    }
+    return commands;
+}
+
+} // namespace Ipgen

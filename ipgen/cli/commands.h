@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ipgen/cli/command.h"
+
+#include <memory>
+#include <vector>
+
+namespace Ipgen {
+
+/// The program's commands, in the order of the help.
+std::vector<std::unique_ptr<Command>> makeCommands();
+
+// One a file. A new command: its file, its maker here, its row in commands.cpp.
+std::unique_ptr<Command> makeCatalogCommand();
+std::unique_ptr<Command> makeDevicesCommand();
+std::unique_ptr<Command> makeNewCommand();
+std::unique_ptr<Command> makeListCommand();
+std::unique_ptr<Command> makeGenerateCommand();
+std::unique_ptr<Command> makeRemoveCommand();
+
+} // namespace Ipgen

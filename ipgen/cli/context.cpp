@@ -1,0 +1,89 @@
+#include "ipgen/cli/context.h"
+
+#include "ipgen/cli/arguments.h"
+#include "ipgen/core/installation.h"
+
+#include <utils/jsontext.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+#include <unistd.h>
+
+namespace Ipgen {
+
+const Catalogue& Context::catalogue() {
+    if (!m_catalogue) {
+        m_catalogue = Catalogue::load(m_pluginFolders);
+        for (const PluginProblem& problem : m_catalogue->problems()) {
+            tell(problem.path, problem.reason);
+        }
+    }
+    return *m_catalogue;
+}
+
+Status Context::devices() {
+    if (!m_devices) {
+        m_devices = loadDevices();
+    }
+    return *m_devices;
+}
+
+Status Context::openProject(const std::string& folder, Project* project) {
+    const Status loaded = devices();
+    return loaded.ok() ? Project::load(fromArgument(folder), project) : loaded;
+}
+
+Status Context::openProjectInModel(const std::string& folder, Project* project) {
+    const Status loaded = openProject(folder, project);
+    if (!loaded.ok()) {
+        return loaded;
+    }
+    QList<Status> skipped;
+    const Status opened = project->openInModel(catalogue(), &skipped);
+    for (const Status& one : qAsConst(skipped)) {
+        tell(one);
+    }
+    return opened;
+}
+
+void Context::printJson(const QVariant& document) {
+    m_output += Utils::writeJson(document);
+}
+
+Exit Context::flush() {
+    const char* data = m_output.constData();
+    auto left = static_cast<std::size_t>(m_output.size());
+    while (left > 0) {
+        const ssize_t done = ::write(STDOUT_FILENO, data, left);
+        if (done < 0 && errno == EINTR) {
+            continue;
+        }
+        if (done <= 0) {
+            const std::string why = std::generic_category().message(errno);
+            m_output.clear();
+            return tell({Exit::BadOutput, QStringLiteral("standard output"),
+                         QStringLiteral("cannot write: ") + QString::fromLocal8Bit(why.c_str())});
+        }
+        data += done;
+        left -= static_cast<std::size_t>(done);
+    }
+    m_output.clear();
+    return Exit::Done;
+}
+
+void Context::tell(const QString& what, const QString& why) {
+    const QByteArray line = (QStringLiteral("ipgen: ") + oneLine(what) + QStringLiteral(": ") +
+                             oneLine(why) + QLatin1Char('\n'))
+                                .toUtf8();
+    // One write: lines of several processes do not mix.
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+    std::fflush(stderr);
+}
+
+Exit Context::tell(const Status& status) {
+    tell(status.what(), status.why());
+    return status.code();
+}
+
+} // namespace Ipgen

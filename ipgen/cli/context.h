@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ipgen/core/catalogue.h"
+#include "ipgen/core/project.h"
+#include "ipgen/core/status.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <optional>
+#include <string>
+
+namespace Ipgen {
+
+/// What every command works with: the IPs on offer, the devices, the project, and where the output
+/// goes. The catalogue and the devices are read when they are first asked for.
+class Context {
+public:
+    void addPluginFolder(const QString& folder) { m_pluginFolders.append(folder); }
+    const QStringList& pluginFolders() const { return m_pluginFolders; }
+
+    /// The IPs on offer; plug-ins that cannot serve are told on standard error, once.
+    const Catalogue& catalogue();
+    /// Loads the device database, once.
+    Status devices();
+    /// Loads devices and project; with the model (openProjectInModel) also the catalogue, and makes
+    /// the project the transceiver model's.
+    Status openProject(const std::string& folder, Project* project);
+    Status openProjectInModel(const std::string& folder, Project* project);
+
+    /// Standard output: written at the end, and checked.
+    void print(const QString& text) { m_output += text.toUtf8(); }
+    void printLine(const QString& text) { print(text + QLatin1Char('\n')); }
+    void printJson(const QVariant& document);
+    /// Writes what was printed. Not all of it could be: BadOutput, told.
+    Exit flush();
+
+    /// "ipgen: WHAT: WHY" on standard error, one line.
+    void tell(const QString& what, const QString& why);
+    /// The same for a status that is not ok; returns its exit status.
+    Exit tell(const Status& status);
+
+private:
+    QStringList m_pluginFolders;
+    std::optional<Catalogue> m_catalogue;
+    std::optional<Status> m_devices;
+    QByteArray m_output;
+};
+
+} // namespace Ipgen
