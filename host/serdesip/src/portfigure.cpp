@@ -18,11 +18,11 @@ namespace IPSERDESIP {
 
 namespace {
 
-constexpr double kMargin = 12.0;      // around everything
-constexpr double kStub = 30.0;        // length of a pin's line
+constexpr double kMargin = 8.0;       // around everything
+constexpr double kStub = 26.0;        // length of a pin's line
 constexpr double kRow = 18.0;         // height of a pin
 constexpr double kPadding = 8.0;      // between the box's edge and a name
-constexpr double kGap = 28.0;         // between the two columns of names
+constexpr double kGap = 20.0;         // between the two columns of names
 constexpr double kHeader = 30.0;      // the module's name
 constexpr double kMinimumBox = 140.0; // width of a symbol without pins
 constexpr int kPinFont = 11;          // pixels
@@ -181,7 +181,7 @@ PortFigure::Colours PortFigure::printColours() {
 
 PortFigure::Colours PortFigure::colours(const QPalette& palette) {
     const bool dark = palette.color(QPalette::Base).lightness() < 128;
-    const QColor text = palette.color(QPalette::Text);
+    const QColor& text = palette.color(QPalette::Text);
     QColor frame = text;
     frame.setAlphaF(0.7);
     return {palette.color(QPalette::Base),
