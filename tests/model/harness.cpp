@@ -55,16 +55,20 @@ Harness::Harness()
     });
     openProject(m_scratch.path());
 
-    m_package = qobject_cast<IPSERDESIP::ProtocolPackage*>(m_loader.instance());
-    if (!m_package) {
-        m_error = m_loader.isLoaded() ? QStringLiteral("no protocol package in it")
-                                      : m_loader.errorString();
-    }
+    reloadPackage();
 }
 
 Harness::~Harness() {
     Core::ViewManager::setErrorSink({});
     Core::IdeCore::setDeviceDataBase({});
+}
+
+void Harness::reloadPackage() {
+    m_package = qobject_cast<IPSERDESIP::ProtocolPackage*>(m_loader.instance());
+    if (!m_package) {
+        m_error = m_loader.isLoaded() ? QStringLiteral("no protocol package in it")
+                                      : m_loader.errorString();
+    }
 }
 
 std::unique_ptr<IPSERDESIP::BaseProtocol> Harness::model() const {

@@ -32,6 +32,8 @@ public:
     /// Why the plug-in could not be loaded; empty: it is.
     QString error() const { return m_error; }
     IPSERDESIP::ProtocolPackage* package() const { return m_package; }
+    /// Asks the loaded plug-in for its package again, after the former one was deleted.
+    void reloadPackage();
     /// A new model; stops the test program when the package offers anything but one.
     std::unique_ptr<IPSERDESIP::BaseProtocol> model() const;
 
