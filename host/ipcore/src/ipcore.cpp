@@ -40,6 +40,9 @@ QMap<QString, QVariant> processIPInfoSpec(const QString& path) {
     }
     QMap<QString, QVariant> flat;
     flatten(value.toMap(), QString(), flat);
+    if (flat.isEmpty()) {
+        Core::ViewManager::reportError(path, QStringLiteral("the IP description is empty"));
+    }
     return flat;
 }
 
@@ -54,7 +57,7 @@ bool checkCommonInfo(const QMap<QString, QVariant>& info) {
     if (missing.isEmpty()) {
         return true;
     }
-    // An empty map is what an unreadable file gives; that has been reported already.
+    // An empty map is what an unreadable or empty file gives; that has been reported already.
     if (!info.isEmpty()) {
         const QString id = info.value(QStringLiteral("ipcore.id")).toString();
         Core::ViewManager::reportError(id.isEmpty() ? QStringLiteral("IP description") : id,
