@@ -105,6 +105,7 @@ void readPlls(Fields& fields, DeviceInfo& device, const Loops& loops, QString* e
         return a.shared != b.shared ? a.shared : a.kind < b.kind;
     });
     device.cdr = findLoop(fields, QStringLiteral("cdr"), loops, QStringLiteral("CDR"));
+    device.cdrSelectable = fields.boolean(QStringLiteral("cdrSelectable"));
 }
 
 void checkNames(Fields& fields, const QString& key, const QStringList& names,

@@ -99,7 +99,7 @@ bool serdes::checkRoute(const QStringList& lanes, const QString& pll, const QStr
                         const QString& rxSource) {
     const Feed pllFeed = feedOf(pllSource, muxSources, muxFrequencies);
     Feed rxFeed = feedOf(rxSource, muxSources, muxFrequencies);
-    if (rxFeed.pin.isEmpty()) {
+    if (rxFeed.pin.isEmpty() || (d->info && !d->info->cdrSelectable)) {
         rxFeed = pllFeed; // no clock of its own: the receiver follows the PLL's
     }
     bool found = true;

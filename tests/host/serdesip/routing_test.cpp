@@ -217,7 +217,7 @@ void RoutingTest::manualRoutes_data() {
     row("both",         "RZ7X-138", "Q0 Lane0", "REFMUX0", "REFMUX1", true,  "Q0_REFCLK0", 100.0, "Q1_REFCLK1", 156.25);
     row("quad 1",       "RZ7X-138", "Q1 Lane3", "REFMUX1", "REFMUX0", true,  "Q1_REFCLK1", 156.25, "Q0_REFCLK0", 100.0);
     row("transmit",     "RZ7X-138", "Q0 Lane0", "REFMUX1", "",        true,  "Q1_REFCLK1", 156.25, "Q1_REFCLK1", 156.25);
-    row("input pin",    "RZ7X-15A", "Q0 Lane0", "GPIO",    "REFMUX0", true,  "Q0_REFIN", 0.0, "Q0_REFCLK0", 100.0);
+    row("input pin",    "RZ7X-15A", "Q0 Lane0", "GPIO",    "REFMUX0", true,  "Q0_REFIN", 0.0, "Q0_REFIN", 0.0);
     row("clock pin",    "RZ7X-15A", "Q0 Lane0", "MCLK",    "",        true,  "MCLK", 0.0, "MCLK", 0.0);
     row("unset",        "RZ7X-138", "Q0 Lane0", "REFMUX2", "REFMUX1", false, "", 0.0, "Q1_REFCLK1", 156.25);
     row("wrong source", "RZ7X-15A", "Q0 Lane0", "REFMUX1", "",        false, "Q1_REFCLK1", 156.25, "Q1_REFCLK1", 156.25);

@@ -57,6 +57,9 @@ struct HOST_DEV_EXPORT DeviceInfo {
     QVector<DirectInput> directInputs;
     QVector<ClockLoop> plls; ///< the kinds that a transmitter can use
     ClockLoop cdr;
+    /// Whether a receiver's reference can be chosen apart from the PLL's; otherwise it takes any
+    /// reference that serves.
+    bool cdrSelectable = false;
     Range txRateMbps; ///< on the line: after oversampling
     Range rxRateMbps;
     Range referenceMHz;
