@@ -38,13 +38,9 @@ std::unique_ptr<QCoreApplication> makeApplication(Command::Screen screen, int& a
     return std::make_unique<QApplication>(argc, argv);
 }
 
-void declareCommand(CLI::App& app, Command& command, Context& context) {
-    CLI::App* sub = app.add_subcommand(command.name(), command.summary());
-    if (command.hidden()) {
-        sub->group("");
-    }
-    sub->set_help_flag("-h,--help", "print this help");
-    sub->add_option_function<std::vector<std::string>>(
+/// Understood before and after the command's name.
+void declarePluginFolders(CLI::App& app, Context& context) {
+    app.add_option_function<std::vector<std::string>>(
            "--plugin-dir",
            [&context](const std::vector<std::string>& folders) {
                for (const std::string& folder : folders) {
@@ -54,6 +50,15 @@ void declareCommand(CLI::App& app, Command& command, Context& context) {
            "a further folder to search for IP plug-ins; may be given more than once")
         ->allow_extra_args(false)
         ->type_name("DIR");
+}
+
+void declareCommand(CLI::App& app, Command& command, Context& context) {
+    CLI::App* sub = app.add_subcommand(command.name(), command.summary());
+    if (command.hidden()) {
+        sub->group("");
+    }
+    sub->set_help_flag("-h,--help", "print this help");
+    declarePluginFolders(*sub, context);
     command.declare(*sub);
 }
 
@@ -95,6 +100,7 @@ int runCommandLine(int argc, char** argv) {
         "ipgen");
     app.set_help_flag("-h,--help", "print this help");
     app.set_version_flag("--version", "ipgen " IPGEN_VERSION, "print the version");
+    declarePluginFolders(app, context);
     app.require_subcommand(0, 1);
     for (const auto& command : commands) {
         declareCommand(app, *command, context);

@@ -11,6 +11,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
              makeListCommand,
              makeGenerateCommand,
              makeRemoveCommand,
+             makeEmitCommand,
          }) {
         commands.push_back(make());
     }

@@ -17,5 +17,6 @@ std::unique_ptr<Command> makeNewCommand();
 std::unique_ptr<Command> makeListCommand();
 std::unique_ptr<Command> makeGenerateCommand();
 std::unique_ptr<Command> makeRemoveCommand();
+std::unique_ptr<Command> makeEmitCommand();
 
 } // namespace Ipgen

@@ -16,7 +16,9 @@ const Catalogue& Context::catalogue() {
     if (!m_catalogue) {
         m_catalogue = Catalogue::load(m_pluginFolders);
         for (const PluginProblem& problem : m_catalogue->problems()) {
-            tell(problem.path, problem.reason);
+            if (!m_quietOnPlugins) {
+                tell(problem.path, problem.reason);
+            }
         }
     }
     return *m_catalogue;

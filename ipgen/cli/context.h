@@ -21,6 +21,9 @@ public:
     void addPluginFolder(const QString& folder) { m_pluginFolders.append(folder); }
     const QStringList& pluginFolders() const { return m_pluginFolders; }
 
+    /// For a process that works for another one, which has told of the plug-ins already.
+    void keepQuietOnPlugins() { m_quietOnPlugins = true; }
+
     /// The IPs on offer; plug-ins that cannot serve are told on standard error, once.
     const Catalogue& catalogue();
     /// Loads the device database, once.
@@ -44,6 +47,7 @@ public:
 
 private:
     QStringList m_pluginFolders;
+    bool m_quietOnPlugins = false;
     std::optional<Catalogue> m_catalogue;
     std::optional<Status> m_devices;
     QByteArray m_output;

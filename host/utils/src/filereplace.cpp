@@ -23,6 +23,8 @@ namespace {
 // the process however that ends, so a file of this name that can be locked belongs to nobody.
 constexpr char temporaryPrefix[] = ".ipgen-tmp-";
 
+int syncLaterCount = 0;
+
 QString systemText(int error) {
     return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
 }
@@ -233,7 +235,8 @@ FileResult FileReplacement::commit() {
     if (!m_result.ok || m_fd < 0) {
         return m_result;
     }
-    if (!m_direct && ::fsync(m_fd) != 0) {
+    const bool sync = !m_direct && syncLaterCount == 0;
+    if (sync && ::fsync(m_fd) != 0) {
         fail("cannot write", errno);
         return m_result;
     }
@@ -247,7 +250,7 @@ FileResult FileReplacement::commit() {
     m_result.written = true;
     if (::close(std::exchange(m_fd, -1)) != 0 && m_direct) {
         fail("cannot write", errno);
-    } else if (!m_direct && !syncFolder(m_folder)) {
+    } else if (sync && !syncFolder(m_folder)) {
         fail("cannot sync its folder", errno);
     }
     return m_result;
@@ -282,6 +285,29 @@ FileResult replaceFile(const QString& path, const QByteArray& bytes) {
     FileReplacement file(path);
     file.write(bytes);
     return file.commit();
+}
+
+SyncLater::SyncLater() {
+    ++syncLaterCount;
+}
+
+SyncLater::~SyncLater() {
+    --syncLaterCount;
+}
+
+FileResult syncFiles(const QString& folder) {
+    FileResult result;
+    result.path = folder;
+    const int fd =
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC | O_DIRECTORY);
+    if (fd < 0 || ::syncfs(fd) != 0) {
+        result.ok = false;
+        result.reason = failure("cannot sync the folder", errno);
+    }
+    if (fd >= 0) {
+        ::close(fd);
+    }
+    return result;
 }
 
 int sweepLeftovers(const QString& folder) {

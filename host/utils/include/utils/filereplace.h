@@ -58,6 +58,21 @@ private:
 /// holds exactly these bytes is left alone, its time of change included.
 HOST_UTILS_EXPORT FileResult replaceFile(const QString& path, const QByteArray& bytes);
 
+/// While it lives, the files that this process replaces are put in place without waiting for the
+/// disk. What ends the process, or takes space away, still leaves each file old or new; only a
+/// fall of the whole machine may not, until syncFiles() has been called. For many files that
+/// count only together.
+class HOST_UTILS_EXPORT SyncLater {
+public:
+    SyncLater();
+    ~SyncLater();
+    SyncLater(const SyncLater&) = delete;
+    SyncLater& operator=(const SyncLater&) = delete;
+};
+
+/// Waits until all that was written to the file system of this folder is on the disk.
+HOST_UTILS_EXPORT FileResult syncFiles(const QString& folder);
+
 /// Removes temporary files that killed runs left in the folder; those still being written stay.
 /// Returns how many were removed.
 HOST_UTILS_EXPORT int sweepLeftovers(const QString& folder);
