@@ -1,10 +1,21 @@
 #include "holdings.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace IPSERDESIP {
 
 namespace {
+
+/// Whether the instance has receivers and no transmitter: its rate binds nobody.
+bool receivesOnly(const Message& message) {
+    const auto any = [&](const char* suffix) {
+        return std::any_of(
+            message.laneResources.begin(), message.laneResources.end(),
+            [&](const QString& name) { return name.endsWith(QLatin1String(suffix)); });
+    };
+    return any("_RX") && !any("_TX");
+}
 
 /// Every resource that a message names, with its use. The first mention of a resource counts.
 void eachUse(const QString& owner, const Message& message,
@@ -17,7 +28,7 @@ void eachUse(const QString& owner, const Message& message,
     Holdings::Use pll = plain;
     pll.reference = message.refClocks.value(0);
     pll.frequency = message.refFrequencies.value(0);
-    pll.rate = message.realTxRate;
+    pll.rate = receivesOnly(message) ? 0.0 : message.realTxRate;
     for (const QString& name : message.plls) {
         take(name, pll);
     }

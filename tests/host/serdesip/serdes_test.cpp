@@ -135,10 +135,13 @@ void SerdesTest::twoOwnersShareAPin() {
 void SerdesTest::receiversAloneFixNoRate() {
     serdes* model = openDevice("RZ7X-60B");
     Message message = linkMessage();
-    message.txRate = message.realTxRate = 0.0;
+    message.laneResources += QStringList{QStringLiteral("Q0_LN0_RX"), QStringLiteral("Q0_LN2_RX")};
     model->setMessage(link, message);
     QVERIFY(model->checkPllEnable(qpll1));
     QVERIFY(model->getMessageByPLL(qpll1).isEmpty());
+    message.laneResources += QStringLiteral("Q0_LN0_TX");
+    model->setMessage(link, message);
+    QCOMPARE(model->getMessageByPLL(qpll1).size(), 3);
 }
 
 void SerdesTest::storeKeepsAndReportsChanges() {
