@@ -206,8 +206,8 @@ void LineRateTest::aFixedRateIsDivided_data() {
                              << "0.1";
     QTest::newRow("10.3125, NA") << 10.3125 << "NA"
                                  << "10.3125";
-    QTest::newRow("six digits: 10.3125 / 40 = 0.2578125") << 10.3125 << "40x"
-                                                          << "0.257812";
+    // Six digits; what lies half-way goes up: 10.3125 / 40 = 0.2578125.
+    QTest::newRow("half-way goes up") << 10.3125 << "40x" << "0.257813";
     QTest::newRow("six digits: 2.97 / 1.001") << 2.97 / 1.001 << "NA"
                                               << "2.96703";
     QTest::newRow("free") << 0.0 << "5x"
