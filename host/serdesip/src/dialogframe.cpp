@@ -3,6 +3,7 @@
 #include "elidedlabel.h"
 #include "figureview.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -43,7 +44,19 @@ void addField(QGridLayout* grid, int row, int column, const QString& caption, QW
     grid->addWidget(field, row, column + 1, 1, columnSpan);
 }
 
-QLayout* header(DialogFrame& frame) {
+QToolButton* historyButton(QDialog& dialog, QAction*& action, const char* name, const QString& text,
+                           QKeySequence::StandardKey keys) {
+    action = new QAction(text, &dialog);
+    action->setShortcut(keys);
+    action->setEnabled(false);
+    auto* button = named(new QToolButton, name, text);
+    button->setDefaultAction(action);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus); // the keys serve those who do not use the mouse
+    return button;
+}
+
+QLayout* header(DialogFrame& frame, QDialog& dialog) {
     frame.label = new QLabel;
     QFont font = frame.label->font();
     font.setBold(true);
@@ -53,6 +66,9 @@ QLayout* header(DialogFrame& frame) {
     frame.deviceName->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* row = new QHBoxLayout;
     row->addWidget(frame.label, 1);
+    row->addWidget(historyButton(dialog, frame.undo, "undo", tr("Undo"), QKeySequence::Undo));
+    row->addWidget(historyButton(dialog, frame.redo, "redo", tr("Redo"), QKeySequence::Redo));
+    row->addSpacing(12);
     row->addWidget(frame.deviceName);
     return row;
 }
@@ -163,7 +179,7 @@ void giveSize(QDialog& dialog) {
 
 void DialogFrame::build(QDialog& dialog) {
     auto* column = new QVBoxLayout(&dialog);
-    column->addLayout(header(*this));
+    column->addLayout(header(*this, dialog));
     column->addLayout(options(*this));
     column->addWidget(pages(*this));
 

@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+class QAction;
 class QComboBox;
 class QDialog;
 class QDialogButtonBox;
@@ -21,6 +22,8 @@ class FigureView;
 struct DialogFrame {
     QLabel* label = nullptr;
     QLabel* deviceName = nullptr;
+    QAction* undo = nullptr;
+    QAction* redo = nullptr;
     QLineEdit* fileName = nullptr;
     QLineEdit* moduleName = nullptr;
     QComboBox* synthesisTool = nullptr;

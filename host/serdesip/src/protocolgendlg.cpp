@@ -2,17 +2,22 @@
 
 #include "dialogframe.h"
 #include "elidedlabel.h"
+#include "fieldkeeper.h"
+#include "fieldvalue.h"
 #include "figureview.h"
 #include "namerules.h"
 #include "serdesip/serdes.h"
 
 #include <core/idecore.h>
 
+#include <QAbstractSpinBox>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -29,6 +34,7 @@ namespace IPSERDESIP {
 
 struct protocolGenDlg::Private {
     DialogFrame frame;
+    FieldKeeper keeper;
     DEV::DeviceArg device;
     bool opening = false;
     bool pathConnected = false;
@@ -105,6 +111,12 @@ protocolGenDlg::protocolGenDlg(QWidget* parent)
     });
     connect(d->frame.moduleName, &QLineEdit::textChanged, this,
             [this] { d->showFigure(figurePins()); });
+    connect(d->frame.undo, &QAction::triggered, &d->keeper, &FieldKeeper::undo);
+    connect(d->frame.redo, &QAction::triggered, &d->keeper, &FieldKeeper::redo);
+    connect(&d->keeper, &FieldKeeper::historyChanged, this, [this] {
+        d->frame.undo->setEnabled(d->keeper.canUndo());
+        d->frame.redo->setEnabled(d->keeper.canRedo());
+    });
     d->showFigure({});
 }
 
@@ -118,6 +130,7 @@ void protocolGenDlg::setCreating(const QString& name, const DEV::DeviceArg& devi
         d->frame.moduleName->setText(name);
     }
     initForDevice();
+    d->keeper.watch(fieldvalue::fieldsOf(*this));
 }
 
 bool protocolGenDlg::setOpening(const ConfigMap& config) {
@@ -128,7 +141,12 @@ bool protocolGenDlg::setOpening(const ConfigMap& config) {
     initForDevice();
     d->frame.fileName->setText(config.value(QStringLiteral("file")).toString());
     d->frame.moduleName->setText(config.value(QStringLiteral("module")).toString());
-    return loadConfig(config);
+    // What a new instance of this name would show is the default; the saved values are where edits
+    // start.
+    d->keeper.watch(fieldvalue::fieldsOf(*this));
+    const bool loaded = loadConfig(config);
+    d->keeper.startHistory();
+    return loaded;
 }
 
 bool protocolGenDlg::isOpening() const {
@@ -273,6 +291,15 @@ bool protocolGenDlg::event(QEvent* event) {
         break;
     }
     return handled;
+}
+
+void protocolGenDlg::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool typing = qobject_cast<QLineEdit*>(focusWidget()) != nullptr ||
+                        qobject_cast<QAbstractSpinBox*>(focusWidget()) != nullptr;
+    if (!enter || !typing) {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 } // namespace IPSERDESIP

@@ -6,7 +6,9 @@
 
 #include <core/idecore.h>
 
+#include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -18,6 +20,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 using IPSERDESIP::ConfigMap;
 using IPSERDESIP::Message;
@@ -128,7 +131,10 @@ private Q_SLOTS:
     void moduleName();
     void moduleUsedByAnother();
     void okRunsTheVirtualAccept();
+    void enterInAFieldDoesNotPressOk();
     void escapeCancels();
+    void undoAndDefaultsOfThePages();
+    void openedValuesAreWhereEditsStart();
     void pagesFollowTheBar();
     void figureGetsThePins();
     void resources_data();
@@ -412,6 +418,47 @@ void ProtocolGenDlgTest::okRunsTheVirtualAccept() {
     QTest::mouseClick(ok, Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void ProtocolGenDlgTest::enterInAFieldDoesNotPressOk() {
+    TestDialog dialog;
+    dialog.show();
+    auto* file = dialog.field<QLineEdit>("fileName");
+    file->setFocus();
+    QTest::keyClick(file, Qt::Key_Return);
+    QVERIFY(dialog.calls.isEmpty());
+    dialog.field<QComboBox>("language")->setFocus();
+    QTest::keyClick(dialog.field<QComboBox>("language"), Qt::Key_Return);
+    QCOMPARE(dialog.calls, QStringList{"accept"});
+}
+
+void ProtocolGenDlgTest::undoAndDefaultsOfThePages() {
+    TestDialog dialog;
+    auto* page = new QWidget;
+    auto* box = new QCheckBox(page);
+    box->setObjectName(QStringLiteral("option"));
+    dialog.uiAddTab(page, QStringLiteral("A"));
+    dialog.setCreating(QStringLiteral("link0"), kBoard);
+    dialog.show();
+    QAction* undo = dialog.field<QToolButton>("undo")->defaultAction();
+    QAction* redo = dialog.field<QToolButton>("redo")->defaultAction();
+    QVERIFY(!undo->isEnabled() && !redo->isEnabled());
+    box->click();
+    QTRY_VERIFY(undo->isEnabled());
+    dialog.field<QComboBox>("language")->setFocus();
+    QTest::keyClick(dialog.field<QComboBox>("language"), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!box->isChecked());
+    QVERIFY(!undo->isEnabled() && redo->isEnabled());
+    redo->trigger();
+    QVERIFY(box->isChecked());
+}
+
+void ProtocolGenDlgTest::openedValuesAreWhereEditsStart() {
+    TestDialog dialog;
+    QVERIFY(dialog.setOpening({{"file", "f"}, {"module", "m"}}));
+    dialog.show();
+    QTest::qWait(0);
+    QVERIFY(!dialog.field<QToolButton>("undo")->defaultAction()->isEnabled());
 }
 
 void ProtocolGenDlgTest::escapeCancels() {

@@ -70,6 +70,8 @@ protected:
     bool checkModuleName();
 
     bool event(QEvent* event) override;
+    /// Enter in a text field takes the text over; it does not press OK.
+    void keyPressEvent(QKeyEvent* event) override;
 
     /// The IP's help document, a path below the IP's data folder.
     QString m_helpDocument;
