@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
 
 namespace {
@@ -31,6 +33,8 @@ class DriverTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase();
+    void wholeCases_data();
+    void wholeCases() { check(); }
     void referenceClocks_data();
     void referenceClocks() { check(); }
     void receiveClocks_data();
@@ -70,6 +74,15 @@ void DriverTest::check() {
 
 // The tables: one row a line.
 // clang-format off
+
+void DriverTest::wholeCases_data()
+{
+    QTest::addColumn<LineRow>("row");
+    for (const GoldenCase& golden : goldenCases()) {
+        const QVariantMap input = QJsonDocument::fromJson(golden.input).object().toVariantMap();
+        addRow(golden.name, golden.name, {}, {}, input.value("data").toMap(), input.value("script").toStringList(), input.value("options").toStringList());
+    }
+}
 
 void DriverTest::referenceClocks_data()
 {

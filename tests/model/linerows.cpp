@@ -26,14 +26,18 @@ QString rowProblem(const Harness& host, const LineRow& row) {
     if (!result.ok) {
         return QStringLiteral("generate() is false");
     }
-    const QStringList script = row.callerScript + expected.script;
+    // A case that has lines of its own in front shows them in its expected text.
+    const auto inFront = [](const QStringList& callers, const QStringList& lines) {
+        return lines.mid(0, callers.size()) == callers ? lines : callers + lines;
+    };
+    const QStringList script = inFront(row.callerScript, expected.script);
     const auto fileLines = [](const QByteArray& bytes) {
         return QString::fromUtf8(bytes).split(QLatin1Char('\n'));
     };
     const QStringList end{QString()}; // what follows the last line feed
     for (const QString& found :
          {difference("script", result.script, script),
-          difference("options", result.options, row.callerOptions + expected.options),
+          difference("options", result.options, inFront(row.callerOptions, expected.options)),
           difference("define.vh", fileLines(result.define), expected.define + end),
           difference("param.v", fileLines(result.param), expected.param + end),
           difference("customized.ini", fileLines(result.ini), script + end)}) {
