@@ -131,7 +131,7 @@ NetlistFlow::Stop NetlistFlow::check(const Request& request) {
     if (!fileFlaw.isEmpty()) {
         return refuse(QStringLiteral("file name"), message->file, fileFlaw);
     }
-    for (const QString& file : QStringList(request.files) << request.folder) {
+    for (const QString& file : request.files + QStringList(request.folder)) {
         const QString flaw = fileNameFlaw(file);
         if (!flaw.isEmpty()) {
             return refuse(QStringLiteral("file name"), file, flaw);
@@ -185,7 +185,7 @@ NetlistFlow::Stop NetlistFlow::collect(const Request& request) {
             return stop;
         }
     }
-    for (const QString& file : QStringList(request.files) << primitivesFile) {
+    for (const QString& file : request.files + QStringList(primitivesFile)) {
         if (!QFileInfo::exists(m_workFolder + QLatin1Char('/') + file)) {
             return {Failure::Refused, QStringLiteral("the RTL file %1/%2 is missing")
                                           .arg(file == primitivesFile ? primitives : rtl, file)};
