@@ -10,6 +10,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
              makeNewCommand,
              makeListCommand,
              makeGenerateCommand,
+             makeExampleCommand,
              makeRemoveCommand,
              makeEmitCommand,
          }) {

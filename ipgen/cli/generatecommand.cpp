@@ -1,6 +1,7 @@
 #include "ipgen/cli/arguments.h"
 #include "ipgen/cli/commands.h"
 #include "ipgen/cli/context.h"
+#include "ipgen/cli/netlistreport.h"
 #include "ipgen/core/generation.h"
 
 #include <serdesip/serdes.h>
@@ -18,6 +19,7 @@ public:
         declareProject(app, m_project);
         app.add_option("NAME", m_names, "instances; none: all of the project")->type_name("");
         app.add_flag("--netlist", m_netlist, "run the netlist generation too");
+        app.add_flag("--quiet", m_quiet, "no progress line of the netlist generation");
         declareJson(app, m_json);
     }
 
@@ -47,6 +49,9 @@ public:
                 exit = exit == Exit::Done ? result.status.code() : exit;
             }
             report(context, name, result, list);
+            if (m_cancelled) {
+                break;
+            }
         }
         if (m_json) {
             context.printJson(QVariantMap({{"instances", list}}));
@@ -71,7 +76,13 @@ private:
         request.config = instance.config;
         request.instance = name;
         request.netlist = m_netlist;
-        return generate(request);
+        if (!m_netlist) {
+            return generate(request);
+        }
+        const NetlistReport report(name, m_quiet);
+        const GenerationResult result = generate(request);
+        m_cancelled = report.isCancelled();
+        return result;
     }
 
     void report(Context& context, const QString& name, const GenerationResult& result,
@@ -108,6 +119,8 @@ private:
     std::string m_project;
     std::vector<std::string> m_names;
     bool m_netlist = false;
+    bool m_quiet = false;
+    bool m_cancelled = false;
     bool m_json = false;
 };
 

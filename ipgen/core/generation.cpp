@@ -4,18 +4,36 @@
 
 #include <ipcore/ipcore.h>
 #include <serdesip/message.h>
+#include <serdesip/netlist.h>
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <exception>
 #include <memory>
+#include <optional>
 
 namespace Ipgen {
 
 namespace {
 
+Exit netlistExit(const IPSERDESIP::NetlistRun& run) {
+    using Failure = IPSERDESIP::NetlistRun::Failure;
+    switch (run.failure()) {
+    case Failure::Tool:
+        return Exit::Tool;
+    case Failure::Output:
+        return Exit::BadOutput;
+    case Failure::None:
+    case Failure::Refused:
+    case Failure::Cancelled:
+        break;
+    }
+    return Exit::Refused;
+}
+
 Status failureOf(const GenerationRequest& request, const ErrorCollector& errors,
-                 const QString& text) {
+                 const IPSERDESIP::NetlistRun& run, const QString& text) {
     if (!errors.entries().isEmpty()) {
         // What could not be written is the one kind of failure that libraries report by path.
         return {Exit::BadOutput, request.instance, errors.suffix().mid(2)};
@@ -24,7 +42,7 @@ Status failureOf(const GenerationRequest& request, const ErrorCollector& errors,
         return {Exit::Refused, request.instance, QStringLiteral("the configuration is empty")};
     }
     if (request.netlist && !text.isEmpty()) {
-        return {Exit::Tool, request.instance, text};
+        return {netlistExit(run), request.instance, text};
     }
     return {Exit::Refused, request.instance,
             QStringLiteral("the IP refused to generate this configuration")};
@@ -56,6 +74,15 @@ GenerationResult generate(const GenerationRequest& request) {
     result.script = request.script;
     result.options = request.options;
     const ErrorCollector errors;
+    // The caller's run is alive, or the one made here is.
+    IPSERDESIP::NetlistRun* const outer = IPSERDESIP::NetlistRun::current();
+    std::optional<IPSERDESIP::NetlistRun> own;
+    if (outer == nullptr) {
+        own.emplace();
+    }
+    IPSERDESIP::NetlistRun& netlist = outer != nullptr ? *outer : *own;
+    netlist.options = &result.options;
+    const auto forget = qScopeGuard([&netlist] { netlist.options = nullptr; });
     IPCore::startOutputLog();
     try {
         request.protocol->setDevice(request.device);
@@ -80,7 +107,7 @@ GenerationResult generate(const GenerationRequest& request) {
     result.folder =
         log.files.isEmpty() ? log.folders.value(0) : QFileInfo(log.files.first()).path();
     if (!result.ok && result.status.ok()) {
-        result.status = failureOf(request, errors, result.text);
+        result.status = failureOf(request, errors, netlist, result.text);
     }
     return result;
 }

@@ -42,7 +42,8 @@ struct GenerationResult {
 /// one path component, ".", "..", absolute, or with control characters.
 Status checkFileName(const QString& file);
 
-/// Checks the configured file name, then runs the IP's generation. Never throws.
+/// Checks the configured file name, then runs the IP's generation. Never throws. For progress and
+/// cancelling of a netlist generation, have an IPSERDESIP::NetlistRun alive during the call.
 GenerationResult generate(const GenerationRequest& request);
 
 } // namespace Ipgen

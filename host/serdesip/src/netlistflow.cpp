@@ -14,8 +14,11 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <cerrno>
+#include <csignal>
 #include <dlfcn.h>
 #include <memory>
+#include <unistd.h>
 
 namespace IPSERDESIP {
 
@@ -76,6 +79,18 @@ QString errorInLog(const QString& path) {
     return QString::fromUtf8(error).trimmed();
 }
 
+/// Removes the working folders of programs that were killed.
+void sweepWorkFolders(const QString& folder) {
+    const QStringList entries =
+        QDir(folder).entryList({QStringLiteral(".netlist-*")}, QDir::Dirs | QDir::Hidden);
+    for (const QString& entry : entries) {
+        const pid_t owner = entry.section(QLatin1Char('-'), 1, 1).toInt();
+        if (owner > 0 && ::kill(owner, 0) != 0 && errno == ESRCH) {
+            QDir(folder + QLatin1Char('/') + entry).removeRecursively();
+        }
+    }
+}
+
 bool endsWhole(const QByteArray& bytes, const char* end) {
     return bytes.endsWith(end);
 }
@@ -94,7 +109,9 @@ bool NetlistFlow::run(const Request& request, QString* text) {
         const auto over = qScopeGuard([] { running = false; });
         stop = check(request);
         if (stop.none()) {
-            QTemporaryDir work(m_instanceFolder + QStringLiteral("/.netlist-XXXXXX"));
+            sweepWorkFolders(m_instanceFolder);
+            QTemporaryDir work(m_instanceFolder +
+                               QStringLiteral("/.netlist-%1-XXXXXX").arg(::getpid()));
             m_workFolder = work.path();
             if (!work.isValid()) {
                 stop = {Failure::Output, QStringLiteral("%1: no working folder can be made: %2")
