@@ -140,7 +140,7 @@ void customizeddlg::fillRatesAndClocks() {
     validate(page.ReferenceClockFrequency, frequencyPattern, rules::defaultFrequency);
     page.ReferenceClockFrequency->setText(rules::defaultFrequency);
     for (QLineEdit* edit : {page.RXLineRate, page.TXLineRate}) {
-        validate(edit, ratePattern, QLatin1String("1.25"));
+        validate(edit, ratePattern, "1.25"_l1);
         edit->setText(QStringLiteral("1.25"));
     }
     checkRxLineRate();
@@ -149,9 +149,7 @@ void customizeddlg::fillRatesAndClocks() {
 void customizeddlg::fillDataPath() {
     const customized_tab2& page = m_forms->tab2;
     for (QComboBox* ratio : {page.comboBoxTXExternalDataRatio, page.comboBoxRXExternalDataRatio}) {
-        addWithData(
-            ratio,
-            {{QLatin1String("1:1"), 1}, {QLatin1String("1:2"), 2}, {QLatin1String("1:4"), 4}});
+        addWithData(ratio, {{"1:1"_l1, 1}, {"1:2"_l1, 2}, {"1:4"_l1, 4}});
     }
     page.lineEditRxInterMetaFrameLength->setValidator(
         new DefaultingValidator(metaFramePattern, QStringLiteral("32"), this));

@@ -53,7 +53,7 @@ bool customizeddlg::loadConfig(const ConfigMap& config) {
 void customizeddlg::loadRatio(const ConfigMap& config) {
     QComboBox* ratio = m_forms->tab1.comboBoxTxLineRatio;
     const ConfigView view(config);
-    for (const QLatin1String first : {Value::NotConnected, QLatin1String("5x")}) {
+    for (const QLatin1String first : {Value::NotConnected, "5x"_l1}) {
         if (offers(ratio, first)) {
             const QString saved = view.text(Key::TxRateRatio, first);
             ratio->setCurrentIndex(

@@ -8,7 +8,7 @@ QStringList codings(int width, const QString& ratio) {
     if (fits8B10B(width)) {
         return {Value::Off, Value::Code8B10B};
     }
-    if (width == 16 && ratio == QLatin1String("1:4")) {
+    if (width == 16 && ratio == "1:4"_l1) {
         return {Value::Off, Value::Code64B66B, Value::Code64B67B};
     }
     return {Value::Off};

@@ -121,7 +121,7 @@ std::vector<const Pins*> laneGroups(const FigureState& state) {
 void append(QList<Utils::PinFigure>& figure, const Pins& pins, const QString& prefix) {
     for (const Pin& pin : pins) {
         QString name = QString::fromLatin1(pin.name);
-        name.replace(QLatin1String("%1"), prefix);
+        name.replace("%1"_l1, prefix);
         figure.append(Utils::PinFigure(name, pin.direction, pin.bus, pin.side));
     }
 }

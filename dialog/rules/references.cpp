@@ -61,10 +61,10 @@ bool usesQuad1Muxes(DeviceClass device, const QStringList& selectedLanes) {
     }
     bool quad1 = false;
     for (const QString& lane : selectedLanes) {
-        if (lane.startsWith(QLatin1String("Q0"))) {
+        if (lane.startsWith("Q0"_l1)) {
             return false;
         }
-        quad1 = quad1 || lane.startsWith(QLatin1String("Q1"));
+        quad1 = quad1 || lane.startsWith("Q1"_l1);
     }
     return quad1;
 }
@@ -74,7 +74,7 @@ QString muxHostName(bool quad1, int mux) {
 }
 
 QString muxInQuad(const QString& quad, const QString& option) {
-    const bool quad1 = quad != QLatin1String("quad0");
+    const bool quad1 = quad != "quad0"_l1;
     for (int mux = 0; mux < (quad1 ? 2 : 4); ++mux) {
         if (option.contains(QStringLiteral("MUX%1").arg(mux))) {
             return muxHostName(quad1, mux);

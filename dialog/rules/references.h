@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/config/deviceclass.h"
+#include "model/config/latin.h"
 
 #include <QString>
 #include <QStringList>
@@ -10,9 +11,9 @@
 namespace IPCUSTOMIZED::rules {
 
 /// What a free reference runs at until the user says otherwise, MHz.
-inline constexpr QLatin1String defaultFrequency("125");
+inline constexpr QLatin1String defaultFrequency = "125"_l1;
 /// The same for the GPIO and MCLK inputs.
-inline constexpr QLatin1String defaultInputFrequency("50");
+inline constexpr QLatin1String defaultInputFrequency = "50"_l1;
 
 /// How many reference multiplexers the class has in a quad.
 int muxCount(DeviceClass device);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLatin1String>
+#include "model/config/latin.h"
 #include <QString>
 
 #include <algorithm>
@@ -11,11 +11,9 @@ namespace IPCUSTOMIZED {
 /// Devices differ in what they offer by class. Every model that is not listed is of the 138k class.
 enum class DeviceClass { K60, K15, K138 };
 
-inline constexpr std::array<QLatin1String, 2> models60k{QLatin1String("RZ7X-60B"),
-                                                 QLatin1String("RZ7X-60ES")};
+inline constexpr std::array<QLatin1String, 2> models60k{"RZ7X-60B"_l1, "RZ7X-60ES"_l1};
 inline constexpr std::array<QLatin1String, 6> models15k{
-    QLatin1String("RZ7X-15A"), QLatin1String("RZ7XR-15A"), QLatin1String("RZ7XR-15B"),
-    QLatin1String("RZ7X-15B"), QLatin1String("RZ7NX-15A"), QLatin1String("RZ7NXR-15A")};
+    "RZ7X-15A"_l1, "RZ7XR-15A"_l1, "RZ7XR-15B"_l1, "RZ7X-15B"_l1, "RZ7NX-15A"_l1, "RZ7NXR-15A"_l1};
 
 /// @param model  the device's model name; the case matters
 inline DeviceClass deviceClass(const QString& model) {

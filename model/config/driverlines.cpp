@@ -19,18 +19,18 @@ struct RefClockName {
 
 // clang-format off
 constexpr RefClockName refClockNames[] = {
-    {QLatin1String("Q0 REFCLK0"), QLatin1String("q0_refclk0_freq")},
-    {QLatin1String("Q0 REFCLK1"), QLatin1String("q0_refclk1_freq")},
-    {QLatin1String("Q1 REFCLK0"), QLatin1String("q1_refclk0_freq")},
-    {QLatin1String("Q1 REFCLK1"), QLatin1String("q1_refclk1_freq")},
-    {QLatin1String("Q0 REFCLK2"), QLatin1String("q0_refclk2_freq")},
-    {QLatin1String("Q0 REFCLK3"), QLatin1String("q0_refclk3_freq")},
-    {QLatin1String("Q0 REFIN0"),  QLatin1String("q0_gpio0_freq")},
-    {QLatin1String("Q0 REFIN1"),  QLatin1String("q0_gpio1_freq")},
-    {QLatin1String("Q0 REFIN2"),  QLatin1String("q0_gpio2_freq")},
-    {QLatin1String("Q0 REFIN3"),  QLatin1String("q0_gpio3_freq")},
-    {QLatin1String("Q0 REFIN"),   QLatin1String("q0_gpio_freq")},
-    {QLatin1String("MCLK"),       QLatin1String("mclk_freq")},
+    {"Q0 REFCLK0"_l1, "q0_refclk0_freq"_l1},
+    {"Q0 REFCLK1"_l1, "q0_refclk1_freq"_l1},
+    {"Q1 REFCLK0"_l1, "q1_refclk0_freq"_l1},
+    {"Q1 REFCLK1"_l1, "q1_refclk1_freq"_l1},
+    {"Q0 REFCLK2"_l1, "q0_refclk2_freq"_l1},
+    {"Q0 REFCLK3"_l1, "q0_refclk3_freq"_l1},
+    {"Q0 REFIN0"_l1,  "q0_gpio0_freq"_l1},
+    {"Q0 REFIN1"_l1,  "q0_gpio1_freq"_l1},
+    {"Q0 REFIN2"_l1,  "q0_gpio2_freq"_l1},
+    {"Q0 REFIN3"_l1,  "q0_gpio3_freq"_l1},
+    {"Q0 REFIN"_l1,   "q0_gpio_freq"_l1},
+    {"MCLK"_l1,       "mclk_freq"_l1},
 };
 // clang-format on
 
@@ -58,12 +58,12 @@ bool addInputLine(ReferenceClocks& clocks, const ConfigView& config) {
     const QString source = config.text(Key::PllRefSource);
     if (source == Value::GpioPin || source == Value::Gpio) {
         clocks.inputLines.append(
-            fill(QLatin1String("q0_gpio_freq %1"), scriptNumber(config.number(Key::GpioFreq))));
+            fill("q0_gpio_freq %1"_l1, scriptNumber(config.number(Key::GpioFreq))));
         return true;
     }
     if (source == Value::Mclk) {
         clocks.inputLines.append(
-            fill(QLatin1String("mclk_freq %1"), scriptNumber(config.number(Key::MclkFreq))));
+            fill("mclk_freq %1"_l1, scriptNumber(config.number(Key::MclkFreq))));
         return true;
     }
     return false;
@@ -81,7 +81,7 @@ QStringList bondingControlLines(DeviceClass device) {
     QStringList lines;
     for (const Lane& lane : lanes) {
         if (lane.quad == 0 || !isListed(device)) {
-            lines.append(fill(QLatin1String("%1_trigger_bonding_ctrl fabric"), lane.prefix));
+            lines.append(fill("%1_trigger_bonding_ctrl fabric"_l1, lane.prefix));
         }
     }
     return lines;
@@ -121,10 +121,8 @@ bool appendRefClockFreqLines(const QStringList& names, const QStringList& freque
         for (const RefClockName& clock : refClockNames) {
             if (names.at(i) == clock.option) {
                 const QString& frequency = frequencies.at(i);
-                script.append(fill(QLatin1String("%1 %2"), clock.setting,
-                                   scriptNumber(textNumber(frequency))));
-                parameters.append(
-                    fill(QLatin1String("parameter %1 = %2;"), clock.setting, frequency));
+                script.append(fill("%1 %2"_l1, clock.setting, scriptNumber(textNumber(frequency))));
+                parameters.append(fill("parameter %1 = %2;"_l1, clock.setting, frequency));
                 break;
             }
         }
@@ -150,22 +148,20 @@ void appendReceiveClockLines(const ConfigView& config, QStringList& script) {
     if (used[0] && used[1]) {
         script.append(QStringLiteral("q0_rx_quad_clk_sel common"));
         script.append(QStringLiteral("q1_rx_quad_clk_sel common"));
-        script.append(fill(QLatin1String("common_clk_src_sel %1"), masterQuad));
-        script.append(
-            fill(QLatin1String("common_clk_from_%1_sel %2_pma_rx_clk"), masterQuad, masterLane));
+        script.append(fill("common_clk_src_sel %1"_l1, masterQuad));
+        script.append(fill("common_clk_from_%1_sel %2_pma_rx_clk"_l1, masterQuad, masterLane));
         return;
     }
     for (std::size_t quad = 0; quad < quadPrefixes.size(); ++quad) {
         if (!used[quad]) {
             continue;
         }
-        const QString internal =
-            fill(QLatin1String("%1_rx_quad_clk_sel internal"), quadPrefixes[quad]);
+        const QString internal = fill("%1_rx_quad_clk_sel internal"_l1, quadPrefixes[quad]);
         if (!script.contains(internal)) {
             script.append(internal);
         }
-        script.append(fill(QLatin1String("%1_rx_quad_clk_internal_sel %2_pma_rx_clk"),
-                           quadPrefixes[quad], masterLane));
+        script.append(
+            fill("%1_rx_quad_clk_internal_sel %2_pma_rx_clk"_l1, quadPrefixes[quad], masterLane));
     }
 }
 
@@ -173,15 +169,15 @@ QStringList biasLines(const QStringList& laneCaptions, const std::array<int, 2>&
     QStringList lines;
     for (std::size_t quad = 0; quad < quadPrefixes.size(); ++quad) {
         if (usesQuad(laneCaptions, static_cast<int>(quad))) {
-            lines.append(fill(QLatin1String("%1_rx_eq_bias %2"), quadPrefixes[quad],
-                              QString::number(bias[quad])));
+            lines.append(
+                fill("%1_rx_eq_bias %2"_l1, quadPrefixes[quad], QString::number(bias[quad])));
         }
     }
     return lines;
 }
 
 QStringList moduleDefineLines(const ConfigView& config, DeviceClass device) {
-    QStringList lines{fill(QLatin1String("`define MODULE_NAME %1"), config.text(Key::Module))};
+    QStringList lines{fill("`define MODULE_NAME %1"_l1, config.text(Key::Module))};
     if (config.flag(Key::DrpPorts)) {
         lines.append(QStringLiteral("`define DRP"));
     }

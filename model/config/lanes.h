@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLatin1String>
+#include "model/config/latin.h"
 #include <QString>
 #include <QStringList>
 
@@ -20,18 +20,18 @@ struct Lane {
 /// One table in the whole library (hence inline): laneIndex() counts from its beginning.
 // clang-format off
 inline constexpr std::array<Lane, 8> lanes{{
-    {QLatin1String("Q0_LN0"), QLatin1String("Q0 Lane0"), QLatin1String("q0_ln0"), 0},
-    {QLatin1String("Q0_LN1"), QLatin1String("Q0 Lane1"), QLatin1String("q0_ln1"), 0},
-    {QLatin1String("Q0_LN2"), QLatin1String("Q0 Lane2"), QLatin1String("q0_ln2"), 0},
-    {QLatin1String("Q0_LN3"), QLatin1String("Q0 Lane3"), QLatin1String("q0_ln3"), 0},
-    {QLatin1String("Q1_LN0"), QLatin1String("Q1 Lane0"), QLatin1String("q1_ln0"), 1},
-    {QLatin1String("Q1_LN1"), QLatin1String("Q1 Lane1"), QLatin1String("q1_ln1"), 1},
-    {QLatin1String("Q1_LN2"), QLatin1String("Q1 Lane2"), QLatin1String("q1_ln2"), 1},
-    {QLatin1String("Q1_LN3"), QLatin1String("Q1 Lane3"), QLatin1String("q1_ln3"), 1},
+    {"Q0_LN0"_l1, "Q0 Lane0"_l1, "q0_ln0"_l1, 0},
+    {"Q0_LN1"_l1, "Q0 Lane1"_l1, "q0_ln1"_l1, 0},
+    {"Q0_LN2"_l1, "Q0 Lane2"_l1, "q0_ln2"_l1, 0},
+    {"Q0_LN3"_l1, "Q0 Lane3"_l1, "q0_ln3"_l1, 0},
+    {"Q1_LN0"_l1, "Q1 Lane0"_l1, "q1_ln0"_l1, 1},
+    {"Q1_LN1"_l1, "Q1 Lane1"_l1, "q1_ln1"_l1, 1},
+    {"Q1_LN2"_l1, "Q1 Lane2"_l1, "q1_ln2"_l1, 1},
+    {"Q1_LN3"_l1, "Q1 Lane3"_l1, "q1_ln3"_l1, 1},
 }};
-inline constexpr std::array<QLatin1String, 2> quadPrefixes{QLatin1String("q0"), QLatin1String("q1")};
+inline constexpr std::array<QLatin1String, 2> quadPrefixes{"q0"_l1, "q1"_l1};
 /// What the captions of a quad's lanes begin with.
-inline constexpr std::array<QLatin1String, 2> quadCaptions{QLatin1String("Q0"), QLatin1String("Q1")};
+inline constexpr std::array<QLatin1String, 2> quadCaptions{"Q0"_l1, "Q1"_l1};
 // clang-format on
 
 /// The lane with this caption; null when no lane has it.

@@ -82,18 +82,18 @@ Lines referenceSourceLines()
 {
     return {
         P("parameter %1_refclk_source = %2;", choose(Key::ReferenceClockSource, {
-            {QLatin1String("Q0 REFCLK0"), "0"},
-            {QLatin1String("Q0 REFCLK1"), "1"},
-            {QLatin1String("Q1 REFCLK0"), "2"},
-            {QLatin1String("Q1 REFCLK1"), "3"},
-            {QLatin1String("Q0 REFCLK2"), "2"},
-            {QLatin1String("Q0 REFCLK3"), "3"},
-            {QLatin1String("Q0 REFIN0"),  "4"},
-            {QLatin1String("Q0 REFIN1"),  "5"},
-            {QLatin1String("Q0 REFIN2"),  "6"},
-            {QLatin1String("Q0 REFIN3"),  "7"},
-            {QLatin1String("Q0 REFIN"),   "2"},
-            {QLatin1String("MCLK"),       "3"},
+            {"Q0 REFCLK0"_l1, "0"},
+            {"Q0 REFCLK1"_l1, "1"},
+            {"Q1 REFCLK0"_l1, "2"},
+            {"Q1 REFCLK1"_l1, "3"},
+            {"Q0 REFCLK2"_l1, "2"},
+            {"Q0 REFCLK3"_l1, "3"},
+            {"Q0 REFIN0"_l1,  "4"},
+            {"Q0 REFIN1"_l1,  "5"},
+            {"Q0 REFIN2"_l1,  "6"},
+            {"Q0 REFIN3"_l1,  "7"},
+            {"Q0 REFIN"_l1,   "2"},
+            {"MCLK"_l1,       "3"},
         })),
     };
 }

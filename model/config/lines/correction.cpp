@@ -11,9 +11,9 @@ namespace {
 
 LineValue ctcClock() {
     return choose(Key::ClockSource, {
-                                        {QLatin1String("User"), "fabric_clk"},
-                                        {QLatin1String("Quad"), "lane_bond_clk"},
-                                        {QLatin1String("TX"), "lane_tx_clk"},
+                                        {"User"_l1, "fabric_clk"},
+                                        {"Quad"_l1, "lane_bond_clk"},
+                                        {"TX"_l1, "lane_tx_clk"},
                                     });
 }
 
