@@ -7,10 +7,26 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace Ipgen {
+
+Context::Context()
+    : m_standardOutput(::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1)) {
+    ::dup2(STDERR_FILENO, STDOUT_FILENO);
+}
+
+Context::~Context() {
+    if (m_standardOutput >= 0) {
+        ::close(m_standardOutput);
+    }
+}
+
+QString Context::standardOutputPath() const {
+    return QStringLiteral("/dev/fd/%1").arg(m_standardOutput);
+}
 
 const Catalogue& Context::catalogue() {
     if (!m_catalogue) {
@@ -36,13 +52,13 @@ Status Context::openProject(const std::string& folder, Project* project) {
     return loaded.ok() ? Project::load(fromArgument(folder), project) : loaded;
 }
 
-Status Context::openProjectInModel(const std::string& folder, Project* project) {
+Status Context::openProjectInModel(const std::string& folder, Project* project, bool tellSkipped) {
     const Status loaded = openProject(folder, project);
     if (!loaded.ok()) {
         return loaded;
     }
     QList<Status> skipped;
-    const Status opened = project->openInModel(catalogue(), &skipped);
+    const Status opened = project->openInModel(catalogue(), tellSkipped ? &skipped : nullptr);
     for (const Status& one : qAsConst(skipped)) {
         tell(one);
     }
@@ -57,7 +73,7 @@ Exit Context::flush() {
     const char* data = m_output.constData();
     auto left = static_cast<std::size_t>(m_output.size());
     while (left > 0) {
-        const ssize_t done = ::write(STDOUT_FILENO, data, left);
+        const ssize_t done = ::write(m_standardOutput, data, left);
         if (done < 0 && errno == EINTR) {
             continue;
         }

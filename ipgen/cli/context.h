@@ -18,6 +18,17 @@ namespace Ipgen {
 /// goes. The catalogue and the devices are read when they are first asked for.
 class Context {
 public:
+    /// Keeps standard output for what is printed here: from now on what an IP or a library writes
+    /// there comes out on standard error.
+    Context();
+    ~Context();
+    Context(const Context&) = delete;
+    Context& operator=(const Context&) = delete;
+
+    /// The program's real standard output, as a descriptor and as a path to open.
+    int standardOutput() const { return m_standardOutput; }
+    QString standardOutputPath() const;
+
     void addPluginFolder(const QString& folder) { m_pluginFolders.append(folder); }
     const QStringList& pluginFolders() const { return m_pluginFolders; }
 
@@ -31,7 +42,8 @@ public:
     /// Loads devices and project; with the model (openProjectInModel) also the catalogue, and makes
     /// the project the transceiver model's.
     Status openProject(const std::string& folder, Project* project);
-    Status openProjectInModel(const std::string& folder, Project* project);
+    /// @param tellSkipped  whether instances whose IP is not on offer are told
+    Status openProjectInModel(const std::string& folder, Project* project, bool tellSkipped = true);
 
     /// Standard output: written at the end, and checked.
     void print(const QString& text) { m_output += text.toUtf8(); }
@@ -46,6 +58,7 @@ public:
     Exit tell(const Status& status);
 
 private:
+    int m_standardOutput;
     QStringList m_pluginFolders;
     bool m_quietOnPlugins = false;
     std::optional<Catalogue> m_catalogue;

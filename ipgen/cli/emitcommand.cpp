@@ -78,15 +78,19 @@ public:
     }
 
 private:
-    static QString standardFile(const std::string& name, const char* standard) {
-        return name == "-" ? QLatin1String(standard) : fromArgument(name);
+    static QString inputPath(const std::string& name) {
+        return name == "-" ? QStringLiteral("/dev/stdin") : fromArgument(name);
+    }
+
+    static QString outputPath(const Context& context, const std::string& name) {
+        return name == "-" ? context.standardOutputPath() : fromArgument(name);
     }
 
     Exit runBatch(Context& context, const QString& out, const QString& ip) {
         context.catalogue(); // tells of plug-ins that cannot serve; the workers do not
         EmitBatch batch;
-        batch.input = standardFile(m_batch, "/dev/stdin");
-        batch.report = standardFile(m_report, "/dev/stdout");
+        batch.input = inputPath(m_batch);
+        batch.report = outputPath(context, m_report);
         batch.out = out;
         batch.ip = ip;
         batch.jobs = m_jobs;
@@ -94,7 +98,7 @@ private:
     }
 
     Exit runOne(Context& context, const QString& out, const QString& ip) {
-        const QString path = standardFile(m_config, "/dev/stdin");
+        const QString path = inputPath(m_config);
         QByteArray bytes;
         const Utils::FileResult read = Utils::readFile(path, &bytes);
         if (!read.ok) {
@@ -125,7 +129,7 @@ private:
     Exit tellOne(Context& context, const QString& name, const GenerationResult& result) {
         const QVariantMap document = reportOf(name, result).document();
         if (!m_report.empty()) {
-            const QString path = standardFile(m_report, "/dev/stdout");
+            const QString path = outputPath(context, m_report);
             const Utils::FileResult written = Utils::replaceFile(
                 path, Utils::writeJson(document, Utils::JsonForm::Compact) + '\n');
             if (!written.ok) {

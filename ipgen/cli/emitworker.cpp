@@ -8,7 +8,6 @@
 #include <utils/jsontext.h>
 
 #include <cerrno>
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace Ipgen {
@@ -32,11 +31,7 @@ bool send(int fd, const QByteArray& line) {
 } // namespace
 
 Exit runEmitWorker(Context& context, const QString& out, const QString& ip) {
-    // What an IP prints must not end up among the answers.
-    const int answers = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
-    if (answers < 0 || ::dup2(STDERR_FILENO, STDOUT_FILENO) < 0) {
-        return Exit::Fault;
-    }
+    const int answers = context.standardOutput();
     context.keepQuietOnPlugins();
     const Status devices = context.devices();
     if (!devices.ok()) {

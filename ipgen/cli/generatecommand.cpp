@@ -25,7 +25,7 @@ public:
 
     Exit run(Context& context) override {
         Project project;
-        Status status = context.openProjectInModel(m_project, &project);
+        Status status = context.openProjectInModel(m_project, &project, false);
         if (!status.ok()) {
             return context.tell(status);
         }

@@ -56,6 +56,24 @@ QByteArray resolveLinks(QByteArray path) {
     return {};
 }
 
+/// The open descriptor that a path of the form "/dev/fd/N" stands for; -1: none. What it leads to
+/// is written to and never replaced, be it a file: the shell that opened it counts on that.
+int descriptorOf(const QByteArray& path) {
+    if (path == "/dev/stdout") {
+        return STDOUT_FILENO;
+    }
+    for (const char* folder : {"/dev/fd/", "/proc/self/fd/"}) {
+        bool number = false;
+        const int fd = path.startsWith(folder)
+                           ? path.mid(static_cast<int>(std::strlen(folder))).toInt(&number)
+                           : -1;
+        if (number) {
+            return fd;
+        }
+    }
+    return -1;
+}
+
 bool writeAll(int fd, const char* data, std::size_t size) {
     while (size > 0) {
         const ssize_t done = ::write(fd, data, size);
@@ -161,6 +179,15 @@ void FileReplacement::begin() {
     const QByteArray path = QFile::encodeName(m_result.path);
     if (path.isEmpty() || path.contains('\0')) {
         fail("cannot write", path.isEmpty() ? ENOENT : EINVAL);
+        return;
+    }
+    const int open = descriptorOf(path);
+    if (open >= 0) {
+        m_direct = true;
+        m_fd = ::fcntl(open, F_DUPFD_CLOEXEC, 0);
+        if (m_fd < 0) {
+            fail("cannot open", errno);
+        }
         return;
     }
     struct stat info {};
@@ -275,7 +302,7 @@ void FileReplacement::discard() {
 
 FileResult replaceFile(const QString& path, const QByteArray& bytes) {
     const QByteArray name = QFile::encodeName(path);
-    if (!name.contains('\0') && holds(name, bytes)) {
+    if (!name.contains('\0') && descriptorOf(name) < 0 && holds(name, bytes)) {
         const QByteArray target = resolveLinks(name);
         sweep(folderOf(target));
         FileResult result;

@@ -22,7 +22,8 @@ struct FileResult {
 /// and whatever ends the process leaves the old file or the new one.
 ///
 /// A symbolic link is followed: what it points to is replaced, the link stays. The permissions of
-/// an existing file are kept. A path that names a device or a pipe is written to directly.
+/// an existing file are kept. A path that names a device, a pipe or an open descriptor
+/// ("/dev/fd/1") is written to directly.
 /// Temporary files are named ".ipgen-tmp-*"; those of a run that was killed are removed by the
 /// next replacement in the same folder.
 class HOST_UTILS_EXPORT FileReplacement {
