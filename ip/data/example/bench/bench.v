@@ -73,7 +73,10 @@ module bench;
   localparam real WORD_TIME = 1000.0;
   localparam real OFFSET_PPM = 0.0;
 `endif
-  localparam CHECKED_WORDS = 1500;
+`ifndef BENCH_WORDS
+  `define BENCH_WORDS 1500
+`endif
+  localparam CHECKED_WORDS = `BENCH_WORDS;
 
   // The clock of the corrected words: the receiver's nominal one, a little off.
   always #(WORD_TIME / 2 * (1.0 - OFFSET_PPM * 1.0e-6)) corrected_clk = !corrected_clk;
