@@ -11,6 +11,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
              makeListCommand,
              makeGenerateCommand,
              makeExampleCommand,
+             makeResourcesCommand,
              makeRemoveCommand,
              makeEmitCommand,
          }) {

@@ -17,6 +17,7 @@ std::unique_ptr<Command> makeNewCommand();
 std::unique_ptr<Command> makeListCommand();
 std::unique_ptr<Command> makeGenerateCommand();
 std::unique_ptr<Command> makeExampleCommand();
+std::unique_ptr<Command> makeResourcesCommand();
 std::unique_ptr<Command> makeRemoveCommand();
 std::unique_ptr<Command> makeEmitCommand();
 
