@@ -121,7 +121,7 @@ void PluginEntryTest::initTestCase() {
 }
 
 QString PluginEntryTest::packageWith(const QByteArray& description) {
-    const QString folder = m_scratch.filePath(QString::number(++m_folders));
+    QString folder = m_scratch.filePath(QString::number(++m_folders));
     QDir().mkpath(folder);
     if (!description.isNull()) {
         QFile file(folder + "/customized.ipspec");
