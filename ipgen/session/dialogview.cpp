@@ -1,0 +1,156 @@
+#include "ipgen/session/dialogview.h"
+
+#include "ipgen/session/snapshot.h"
+
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QScrollArea>
+
+namespace Ipgen::Session {
+
+namespace {
+
+constexpr const char* framePrefix = "frame/";
+constexpr const char* tabPrefix = "tab";
+
+QString quoted(const QString& text) {
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+/// The first of these that would show, else the first.
+QWidget* firstVisible(const QList<QWidget*>& widgets, const QWidget* ancestor) {
+    for (QWidget* widget : widgets) {
+        if (widget->isVisibleTo(ancestor)) {
+            return widget;
+        }
+    }
+    return widgets.isEmpty() ? nullptr : widgets.first();
+}
+
+QAbstractButton* standardButton(const QWidget* dialog, QDialogButtonBox::StandardButton which) {
+    const auto boxes = dialog->findChildren<QDialogButtonBox*>();
+    for (const QDialogButtonBox* box : boxes) {
+        if (QAbstractButton* button = box->button(which)) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+DialogView::DialogView(IPSERDESIP::protocolGenDlg* dialog)
+    : m_dialog(dialog) {
+    m_tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabs"));
+    if (m_tabs == nullptr) {
+        m_tabs = dialog->findChild<QTabWidget*>();
+    }
+}
+
+IPSERDESIP::protocolGenDlg* DialogView::dialog() const {
+    return m_dialog;
+}
+
+DialogView::Place DialogView::find(const QString& name) const {
+    Place place;
+    const int slash = name.indexOf(QLatin1Char('/'));
+    const QString where = name.left(slash);
+    const QString object = slash < 0 ? QString() : name.mid(slash + 1);
+    if (object.isEmpty()) {
+        place.why = quoted(name) + QLatin1String(" is no object: tabN/NAME or frame/NAME is");
+        return place;
+    }
+    if (name.startsWith(QLatin1String(framePrefix))) {
+        QList<QWidget*> around;
+        const auto all = m_dialog->findChildren<QWidget*>(object);
+        for (QWidget* widget : all) {
+            if (m_tabs == nullptr || !m_tabs->isAncestorOf(widget)) {
+                around.append(widget);
+            }
+        }
+        place.widget = firstVisible(around, m_dialog);
+        if (place.widget == nullptr) {
+            place.why = QLatin1String("the frame has no field ") + quoted(object);
+        }
+        return place;
+    }
+    bool isNumber = false;
+    const int count = m_tabs == nullptr ? 0 : m_tabs->count();
+    const int number = where.mid(int(qstrlen(tabPrefix))).toInt(&isNumber);
+    if (!where.startsWith(QLatin1String(tabPrefix)) || !isNumber) {
+        place.why = quoted(name) + QLatin1String(" is no object: tabN/NAME or frame/NAME is");
+    } else if (number < 1 || number > count) {
+        place.why = QStringLiteral("there is no tab %1, the dialog has %2").arg(number).arg(count);
+    } else {
+        place.page = m_tabs->widget(number - 1);
+        place.widget = firstVisible(place.page->findChildren<QWidget*>(object), place.page);
+        if (place.widget == nullptr) {
+            place.why = QStringLiteral("tab %1 has no object ").arg(number) + quoted(object);
+        }
+    }
+    return place;
+}
+
+QString DialogView::nameOf(const QWidget* widget) const {
+    if (widget->objectName().isEmpty() || m_dialog == nullptr) {
+        return {};
+    }
+    for (int i = 0; m_tabs != nullptr && i < m_tabs->count(); ++i) {
+        if (m_tabs->widget(i)->isAncestorOf(widget)) {
+            return QStringLiteral("tab%1/").arg(i + 1) + widget->objectName();
+        }
+    }
+    return m_dialog->isAncestorOf(widget) ? QLatin1String(framePrefix) + widget->objectName()
+                                          : QString();
+}
+
+QString DialogView::whyOutOfReach(const Place& place) const {
+    const QWidget* within = place.page != nullptr ? place.page : m_dialog.data();
+    if (!place.widget->isVisibleTo(within)) {
+        return QStringLiteral("it is hidden");
+    }
+    if (place.page != nullptr && !m_tabs->isTabEnabled(m_tabs->indexOf(place.page))) {
+        return QStringLiteral("its tab is disabled");
+    }
+    return place.widget->isEnabled() ? QString() : QStringLiteral("it is disabled");
+}
+
+void DialogView::bringIntoSight(const Place& place) const {
+    if (place.page == nullptr) {
+        return;
+    }
+    m_tabs->setCurrentWidget(place.page);
+    for (QWidget* parent = place.widget->parentWidget(); parent != nullptr;
+         parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) {
+            area->ensureWidgetVisible(place.widget);
+        }
+    }
+}
+
+QAbstractButton* DialogView::okButton() const {
+    return standardButton(m_dialog, QDialogButtonBox::Ok);
+}
+
+QAbstractButton* DialogView::cancelButton() const {
+    return standardButton(m_dialog, QDialogButtonBox::Cancel);
+}
+
+QVariantMap DialogView::state() const {
+    QVariantMap all;
+    for (int i = 0; m_tabs != nullptr && i < m_tabs->count(); ++i) {
+        const QString prefix = QStringLiteral("tab%1/").arg(i + 1);
+        const QVariantMap page = snapshotOfPage(m_tabs->widget(i));
+        for (auto it = page.begin(); it != page.end(); ++it) {
+            all.insert(prefix + it.key(), it.value());
+        }
+    }
+    return all;
+}
+
+QVariantList DialogView::figure() const {
+    return figureOf(*m_dialog);
+}
+
+} // namespace Ipgen::Session

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <serdesip/protocolgendlg.h>
+
+#include <QPointer>
+#include <QString>
+#include <QTabWidget>
+#include <QVariant>
+
+class QAbstractButton;
+
+class QWidget;
+
+namespace Ipgen::Session {
+
+/// An IP's dialog as a user sees it: numbered pages with named objects, the host's own fields
+/// around them, OK and Cancel. Knows widget classes, no dialog in particular.
+class DialogView {
+public:
+    DialogView() = default;
+    explicit DialogView(IPSERDESIP::protocolGenDlg* dialog);
+
+    /// Null once the dialog is gone.
+    IPSERDESIP::protocolGenDlg* dialog() const;
+    /// The tab strip that the pages stand in; null when the dialog has none.
+    QTabWidget* tabs() const { return m_tabs; }
+
+    /// An object that was looked for.
+    struct Place {
+        QWidget* widget = nullptr;
+        QWidget* page = nullptr; ///< null for a field of the frame
+        QString why;             ///< no widget: what is wrong with the name
+    };
+    /// By "tabN/objectName" or "frame/objectName". Of several objects of one name on a page, the
+    /// first that would show is meant.
+    Place find(const QString& name) const;
+    /// The name that find() takes; empty for a widget without one.
+    QString nameOf(const QWidget* widget) const;
+
+    /// Why a user could not use the object now; empty: could.
+    QString whyOutOfReach(const Place& place) const;
+    /// Puts the object's page in front and scrolls the object into sight.
+    void bringIntoSight(const Place& place) const;
+
+    /// The button that accepts, or that cancels; null when there is none.
+    QAbstractButton* okButton() const;
+    QAbstractButton* cancelButton() const;
+
+    /// Every named field, button, label and group box of the pages, by name.
+    QVariantMap state() const;
+    /// The pins of the port figure, in order.
+    QVariantList figure() const;
+
+private:
+    QPointer<IPSERDESIP::protocolGenDlg> m_dialog;
+    QPointer<QTabWidget> m_tabs;
+};
+
+} // namespace Ipgen::Session

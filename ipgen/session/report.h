@@ -1,0 +1,51 @@
+#pragma once
+
+#include <serdesip/types.h>
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+namespace Ipgen::Session {
+
+/// What happened in a session.
+struct Report {
+    enum class Result {
+        Accepted,
+        Cancelled,
+        Refused, ///< the IP would not open the configuration; its dialog was never shown
+        Failed,  ///< a step could not be done; `error` says which and why
+    };
+
+    /// A message box that was shown, and the button that closed it.
+    struct Message {
+        QString title;
+        QString text;
+        QStringList buttons; ///< as shown, without mnemonics
+        QString answer;
+    };
+
+    /// A step marked "try" that could not be done.
+    struct Refusal {
+        int step = 0; ///< from 1
+        QString why;
+    };
+
+    Result result = Result::Cancelled;
+    QString error;
+    QList<Message> messages;
+    QList<Refusal> refused;
+    QVariantMap states;           ///< label to snapshot
+    QVariantMap figures;          ///< label to list of pins
+    QStringList details;          ///< what the resource model had to say about failures, each once
+    IPSERDESIP::ConfigMap config; ///< when accepted
+
+    bool accepted() const { return result == Result::Accepted; }
+    /// "accepted", "cancelled", "refused" or "failed".
+    QString resultName() const;
+    /// The report's JSON object.
+    QVariantMap toMap() const;
+};
+
+} // namespace Ipgen::Session
