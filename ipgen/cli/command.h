@@ -36,6 +36,8 @@ public:
     virtual void declare(CLI::App& app) = 0;
     /// Asked after the arguments are parsed.
     virtual Screen screen() const { return Screen::None; }
+    /// What the user can do about a missing display, put behind the message that says so.
+    virtual const char* withoutDisplay() const { return ""; }
     /// Not in the list of commands: for the program's own use.
     virtual bool hidden() const { return false; }
     /// Failures are told through the context; the result is the exit status.

@@ -21,6 +21,15 @@ bool hasDisplay() {
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
+/// Drops what the offscreen platform says about itself: standard error is for errors.
+void offscreenMessages(QtMsgType type, const QMessageLogContext& where, const QString& text) {
+    if (!text.startsWith(QLatin1String("This plugin does not support ")) &&
+        !text.startsWith(QLatin1String("QStandardPaths: "))) {
+        const QByteArray line = qFormatLogMessage(type, where, text).toLocal8Bit() + '\n';
+        std::cerr << line.constData();
+    }
+}
+
 /// The application object that the command needs. Commands without a screen get the offscreen
 /// platform whatever the environment says, so that they run anywhere.
 std::unique_ptr<QCoreApplication> makeApplication(Command::Screen screen, int& argc, char** argv) {
@@ -31,6 +40,7 @@ std::unique_ptr<QCoreApplication> makeApplication(Command::Screen screen, int& a
         return std::make_unique<QCoreApplication>(argc, argv);
     case Command::Screen::Offscreen:
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(offscreenMessages);
         break;
     case Command::Screen::Display:
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -76,7 +86,8 @@ Exit usageError(Context& context, const CLI::ParseError& error, const CLI::App& 
 Exit runParsed(Context& context, Command& command, int argc, char** argv) {
     if (command.screen() == Command::Screen::Display && !hasDisplay()) {
         context.tell(QString::fromUtf8(command.name()),
-                     QStringLiteral("there is no display to show a window on"));
+                     QStringLiteral("there is no display to show a window on") +
+                         QString::fromUtf8(command.withoutDisplay()));
         return Exit::Refused;
     }
     const auto application = makeApplication(command.screen(), argc, argv);

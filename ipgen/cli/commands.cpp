@@ -9,9 +9,13 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
              makeDevicesCommand,
              makeNewCommand,
              makeListCommand,
+             makeCreateCommand,
+             makeOpenCommand,
+             makeCheckCommand,
              makeGenerateCommand,
              makeExampleCommand,
              makeResourcesCommand,
+             makeFigureCommand,
              makeRemoveCommand,
              makeEmitCommand,
          }) {

@@ -18,6 +18,10 @@ std::unique_ptr<Command> makeListCommand();
 std::unique_ptr<Command> makeGenerateCommand();
 std::unique_ptr<Command> makeExampleCommand();
 std::unique_ptr<Command> makeResourcesCommand();
+std::unique_ptr<Command> makeCreateCommand();
+std::unique_ptr<Command> makeOpenCommand();
+std::unique_ptr<Command> makeCheckCommand();
+std::unique_ptr<Command> makeFigureCommand();
 std::unique_ptr<Command> makeRemoveCommand();
 std::unique_ptr<Command> makeEmitCommand();
 

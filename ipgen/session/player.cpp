@@ -114,6 +114,8 @@ void Player::perform(const Step& step) {
     case Step::Kind::State:
         m_report.states.insert(step.target, m_view.state());
         m_report.figures.insert(step.target, m_view.figure());
+        m_report.pins.insert(step.target, m_view.dialog()->figurePins());
+        m_report.module = m_view.dialog()->moduleName();
         break;
     case Step::Kind::Accept:
         why = pressStandard(m_view.okButton(), "OK");
@@ -126,6 +128,9 @@ void Player::perform(const Step& step) {
         refuse(m_current, step.tries, why);
     }
     const bool turnedDown = step.kind == Step::Kind::Accept && !m_dialogAccepted;
+    if (step.kind == Step::Kind::Accept || step.kind == Step::Kind::Cancel) {
+        m_report.turnedDown = turnedDown;
+    }
     if (turnedDown || m_report.messages.size() > boxes) {
         gatherDetails();
     }

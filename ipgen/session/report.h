@@ -1,8 +1,10 @@
 #pragma once
 
 #include <serdesip/types.h>
+#include <utils/pinfigure.h>
 
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -36,10 +38,14 @@ struct Report {
     QString error;
     QList<Message> messages;
     QList<Refusal> refused;
-    QVariantMap states;           ///< label to snapshot
-    QVariantMap figures;          ///< label to list of pins
+    QVariantMap states;                          ///< label to snapshot
+    QString module;                              ///< the module name in the last snapshot
+    QMap<QString, QList<Utils::PinFigure>> pins; ///< the figures as the frame has them
+    QVariantMap figures;                         ///< label to list of pins
     QStringList details;          ///< what the resource model had to say about failures, each once
     IPSERDESIP::ConfigMap config; ///< when accepted
+
+    bool turnedDown = false; ///< the last thing asked of the dialog was OK, and it stayed open
 
     bool accepted() const { return result == Result::Accepted; }
     /// "accepted", "cancelled", "refused" or "failed".

@@ -153,7 +153,8 @@ QVariantList figureOf(const IPSERDESIP::protocolGenDlg& dialog) {
     QVariantList pins;
     const auto figure = dialog.figurePins();
     for (const Utils::PinFigure& pin : figure) {
-        const bool right = pin.alignment().testFlag(Qt::AlignRight);
+        const bool sided = (pin.alignment() & (Qt::AlignLeft | Qt::AlignRight)) != 0;
+        const bool right = sided ? pin.alignment().testFlag(Qt::AlignRight) : pin.direction() == 1;
         pins.append(QVariantMap{{key("name"), pin.name()},
                                 {key("direction"), pin.direction()},
                                 {key("bus"), pin.isBus()},
