@@ -4,7 +4,7 @@
 
 // How far apart the clocks of a clock correction are.
 `ifndef BENCH_OFFSET_PPM
-  `define BENCH_OFFSET_PPM 600.0
+  `define BENCH_OFFSET_PPM 3000.0
 `endif
 
 module bench;
@@ -17,6 +17,7 @@ module bench;
   reg        bond_start = 1'b0;
   reg        corrected_clk = 1'b0;
   reg        failed = 1'b0;
+  real       offset = 0.0;          // of the corrected words' clock, in ppm
   event      report_lanes;
   wire [7:0] used;
   wire [7:0] ready;
@@ -76,10 +77,13 @@ module bench;
 `ifndef BENCH_WORDS
   `define BENCH_WORDS 1500
 `endif
+  // Until the clocks have drifted by 12 characters, on the way back by twice as many.
+  localparam CORRECTED_WORDS = OFFSET_PPM == 0.0 ? 0 : $rtoi(WORD_DRIFT / (OFFSET_PPM * 1.0e-6));
   localparam CHECKED_WORDS = `BENCH_WORDS;
 
-  // The clock of the corrected words: the receiver's nominal one, a little off.
-  always #(WORD_TIME / 2 * (1.0 - OFFSET_PPM * 1.0e-6)) corrected_clk = !corrected_clk;
+  // The clock of the corrected words: the receiver's nominal one, a little fast, later a little
+  // slow, so that characters are added and dropped.
+  always #(WORD_TIME / 2 * (1.0 - offset * 1.0e-6)) corrected_clk = !corrected_clk;
 
   // ---- bonded lanes give the same word at the same time
   integer i;
@@ -115,6 +119,7 @@ module bench;
       $display("PASS (no lanes)");
       $finish;
     end
+    offset = OFFSET_PPM;
     #100000;
     if (!(&covered)) fail("the configuration cannot receive what it sends");
     rstn = 1'b1;
@@ -143,6 +148,11 @@ module bench;
     unequal = 0;
     check = 1'b1;
     words(CHECKED_WORDS);
+    if (OFFSET_PPM != 0.0) begin
+      words(CORRECTED_WORDS);
+      offset = -OFFSET_PPM;
+      words(2 * CORRECTED_WORDS);
+    end
     -> report_lanes;
     #1;
     if (BONDED) $display("bonding: %0d words differ", unequal);

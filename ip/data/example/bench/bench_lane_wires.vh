@@ -17,6 +17,7 @@
   localparam real UI = 1000.0 / `LANE(rx_rate);                       // ps
   localparam RX_WORD_BITS = RX_CODING >= 2 ? (RX_CODING == 2 ? 66 : 67)
                                            : `LANE_RX_WIDTH * `LANE(rx_gearbox);
+  localparam real WORD_DRIFT = RX_CODING >= 2 ? 4.0 : 120.0 / RX_WORD_BITS + 3.0;  // words
   localparam real WORD_TIME = UI * RX_WORD_BITS;
 `ifdef LANE_CHANNEL_BONDING
   localparam BONDED = RX_CODING == 1;
@@ -169,7 +170,8 @@
   // The pads of the lane, which have no port in the fabric.
   always @(`LANE(bench).line_back) dut.`LANE(phy).lane.model.pad_rx = `LANE(bench).line_back;
   always @(report_lanes) `LANE(bench).report;
-  initial if (TX_READ) `LANE(bench).far.tx_ppm = OFFSET_PPM;
+  always @(offset) if (TX_READ) `LANE(bench).far.tx_ppm = offset;
+  initial #1 if (TX_READ) `LANE(bench).far.tx_ppm = offset;
   always @(`LANE(bench).rx_delay) dut.`LANE(phy).lane.model.rx_delay = `LANE(bench).rx_delay;
 `ifdef LANE_WORD_ALIGN
   always @(posedge check) if (`LANE(word_align_link_o) !== 1'b1 && `LANE_RX_WIDTH % 10 == 0) begin

@@ -27,6 +27,10 @@ module bench_sink #(
   integer    errors = 0;
   integer    controls = 0;       // control characters, or starts of packets
   integer    spares = 0;         // correction characters, pairs or blocks of idles
+  integer    added = 0;          // frames with more than one of them, and with none
+  integer    dropped = 0;
+  integer    in_frame = 0;
+  integer    frames = 0;
   reg [22:0] history = 23'd0;
   integer    known = 0;
   reg        pair = 1'b0;
@@ -63,8 +67,15 @@ module bench_sink #(
         pair = 1'b0;
       end else if (c[8]) begin
         controls = controls + 1;
+        if (c[7:0] === ALIGN) begin
+          if (frames > 0 && in_frame > 1) added = added + 1;
+          if (frames > 0 && in_frame == 0) dropped = dropped + 1;
+          frames = frames + 1;
+          in_frame = 0;
+        end
         if (SPARES != 0 && c[7:0] === SPARE) begin
           spares = spares + 1;
+          in_frame = in_frame + 1;
           pair = SPARES == 2;
         end else if (!(c[7:0] === ALIGN || BONDING && c[7:0] === BOND)) begin
           errors = errors + 1;
@@ -106,6 +117,10 @@ module bench_sink #(
       errors = 0;
       controls = 0;
       spares = 0;
+      added = 0;
+      dropped = 0;
+      in_frame = 0;
+      frames = 0;
       known = 0;
       pair = 1'b0;
       in_packet = 1'b0;
