@@ -12,17 +12,15 @@ LineReader::LineReader(int fd, int longest)
     , m_longest(longest) {}
 
 bool LineReader::fill() {
-    constexpr int block = 65536;
-    m_buffer.resize(block);
     m_at = 0;
     ssize_t done = -1;
     do {
-        done = ::read(m_fd, m_buffer.data(), block);
+        done = ::read(m_fd, m_block.data(), m_block.size());
     } while (done < 0 && errno == EINTR);
     if (done < 0) {
         m_error = QString::fromLocal8Bit(std::generic_category().message(errno).c_str());
     }
-    m_buffer.resize(done > 0 ? static_cast<int>(done) : 0);
+    m_filled = done > 0 ? static_cast<int>(done) : 0;
     return done > 0;
 }
 
@@ -37,17 +35,17 @@ bool LineReader::next() {
     m_tooLong = false;
     bool any = false;
     for (;;) {
-        if (m_at == m_buffer.size() && !fill()) {
+        if (m_at == m_filled && !fill()) {
             m_number += any && m_error.isEmpty() ? 1 : 0;
             return any && m_error.isEmpty();
         }
         any = true;
-        const char* from = m_buffer.constData() + m_at;
-        const int size = m_buffer.size() - m_at;
+        const char* from = m_block.data() + m_at;
+        const int size = m_filled - m_at;
         const void* feed = std::memchr(from, '\n', static_cast<std::size_t>(size));
         if (feed == nullptr) {
             keep(from, size);
-            m_at = m_buffer.size();
+            m_at = m_filled;
             continue;
         }
         const int length = static_cast<int>(static_cast<const char*>(feed) - from);

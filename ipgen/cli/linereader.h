@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <vector>
+
 namespace Ipgen {
 
 /// Reads lines from a file descriptor. Holds no more than one line of limited length at a time.
@@ -29,7 +31,8 @@ private:
 
     int m_fd;
     int m_longest;
-    QByteArray m_buffer;
+    std::vector<char> m_block = std::vector<char>(65536);
+    int m_filled = 0;
     int m_at = 0;
     QByteArray m_line;
     qint64 m_number = 0;

@@ -137,20 +137,31 @@ QString serdes::Private::pllProblem(const QString& pll, const QString& pin,
                                   : listText(unoccupied) + QStringLiteral(", the lanes' own CPLL"));
 }
 
-QString serdes::Private::pinProblem(const QString& pin, double frequency) const {
-    const Holdings::Use use = other(pin);
-    if (use.owner.isEmpty() || !(frequency > 0.0) || sameNumber(use.frequency, frequency)) {
-        return {};
-    }
+QString serdes::Private::freePins() const {
     QStringList unoccupied;
     for (const QString& name : info->pins) {
         if (other(name).owner.isEmpty()) {
             unoccupied.append(pinText(name));
         }
     }
+    return unoccupied.isEmpty() ? QStringLiteral("none") : listText(unoccupied);
+}
+
+QString serdes::Private::pinProblem(const QString& pin, double frequency) const {
+    const Holdings::Use use = other(pin);
+    if (use.owner.isEmpty() || !(frequency > 0.0) || sameNumber(use.frequency, frequency)) {
+        return {};
+    }
     return QStringLiteral("%1 carries %2 MHz for %3; it cannot be %4 MHz. Free: %5.")
-        .arg(pinText(pin), numberText(use.frequency), use.owner, numberText(frequency),
-             unoccupied.isEmpty() ? QStringLiteral("none") : listText(unoccupied));
+        .arg(pinText(pin), numberText(use.frequency), use.owner, numberText(frequency), freePins());
+}
+
+QString serdes::Private::pinUse(const QString& pin) const {
+    const Holdings::Use use = other(pin);
+    return use.owner.isEmpty() ? QString()
+                               : QStringLiteral("%1 carries %2 MHz for %3. Free: %4.")
+                                     .arg(pinText(pin), numberText(use.frequency), use.owner,
+                                          freePins());
 }
 
 QString serdes::Private::laneProblem(const QString& lane) const {

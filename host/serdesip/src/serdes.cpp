@@ -107,6 +107,10 @@ REF_SOURCE* serdes::findRefsource(const QString& name) const {
 }
 
 REF_SOURCE* serdes::FormStringToREFSPtr(const QString& name) const {
+    // Whoever asks compares the pin's use with his own wish: should they differ, this says with whom.
+    if (d->info) {
+        d->addDetail(d->pinUse(pinName(name)));
+    }
     return findRefsource(pinName(name));
 }
 

@@ -40,6 +40,9 @@ struct serdes::Private {
     QString pllProblem(const QString& pll, const QString& pin, double frequency) const;
     QString pinProblem(const QString& pin, double frequency) const;
     QString laneProblem(const QString& lane) const;
+    /// Who uses a pin, and which are free; empty: nobody else does.
+    QString pinUse(const QString& pin) const;
+    QString freePins() const;
     /// The whole route of a lane; notes every problem and tells whether there is none.
     bool checkLane(const QString& lane, const QString& pllMux, const QString& rxMux,
                    LaneRoute& route);
