@@ -18,6 +18,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
              makeFigureCommand,
              makeRemoveCommand,
              makeEmitCommand,
+             makeGuiCommand,
          }) {
         commands.push_back(make());
     }

@@ -24,5 +24,6 @@ std::unique_ptr<Command> makeCheckCommand();
 std::unique_ptr<Command> makeFigureCommand();
 std::unique_ptr<Command> makeRemoveCommand();
 std::unique_ptr<Command> makeEmitCommand();
+std::unique_ptr<Command> makeGuiCommand();
 
 } // namespace Ipgen

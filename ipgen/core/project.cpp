@@ -233,6 +233,11 @@ void Project::setData(const QVariantMap& data) {
     m_now.insert(dataKey, data);
 }
 
+bool Project::sameAs(const Project& other) const {
+    return Utils::writeJson(m_now, Utils::JsonForm::Compact) ==
+           Utils::writeJson(other.m_now, Utils::JsonForm::Compact);
+}
+
 bool Project::changed() const {
     return Utils::writeJson(m_now, Utils::JsonForm::Compact) !=
            Utils::writeJson(m_base, Utils::JsonForm::Compact);

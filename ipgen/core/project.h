@@ -58,6 +58,8 @@ public:
     QVariantMap data() const;
     void setData(const QVariantMap& data);
 
+    /// Whether both hold the same, saved or not.
+    bool sameAs(const Project& other) const;
     /// Whether there is anything to save.
     bool changed() const;
     /// Writes what was changed since load() or save(), whole or not at all. Two programs that save

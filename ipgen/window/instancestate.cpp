@@ -1,0 +1,127 @@
+#include "ipgen/window/instancestate.h"
+
+#include "ipgen/report/trial.h"
+
+#include <utils/filereplace.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+
+namespace Window {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("Window::State", text);
+}
+
+State compareFiles(const Ipgen::TrialResult& trial, const QString& workingDir, QString* detail) {
+    for (auto it = trial.files.constBegin(); it != trial.files.constEnd(); ++it) {
+        QByteArray bytes;
+        const QString path = workingDir + QLatin1Char('/') + it.key();
+        const QString name = QFileInfo(path).fileName();
+        if (!Utils::readFile(path, &bytes).ok) {
+            *detail = tr("%1 is missing").arg(name);
+            return State::OutOfDate;
+        }
+        if (bytes != it.value()) {
+            *detail = tr("%1 differs from what would be generated now").arg(name);
+            return State::OutOfDate;
+        }
+    }
+    return State::Generated;
+}
+
+} // namespace
+
+InstanceRow rowOf(const Ipgen::Project& project, const Ipgen::Catalogue& catalogue,
+                  const QString& name, const IPSERDESIP::Message* message) {
+    InstanceRow row;
+    row.name = name;
+    row.ip = project.instance(name).ip;
+    row.ipName = row.ip;
+    const Ipgen::CatalogueEntry* entry = nullptr;
+    const Ipgen::Status offered = catalogue.pick(row.ip, &entry);
+    if (!offered.ok()) {
+        row.state = State::NoIp;
+        row.detail = offered.text();
+        return row;
+    }
+    row.ipName = entry->name;
+    if (message != nullptr) {
+        row.file = message->file;
+        row.lanes = message->lanes;
+        row.plls = message->plls;
+        row.txRate = message->txRate;
+        row.rxRate = message->rxRate;
+    }
+    return row;
+}
+
+QStringList generatedFiles(const Ipgen::Project& project, const QString& file) {
+    QStringList files;
+    if (file.isEmpty()) {
+        return files;
+    }
+    const QString folder = project.workingDir() + QLatin1Char('/') + file;
+    QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        files.append(it.next());
+    }
+    files.sort();
+    return files;
+}
+
+void lookAtFiles(const Ipgen::Project& project, const Ipgen::Catalogue& catalogue,
+                 const DEV::DeviceArg& device, const QVector<InstanceRow*>& rows) {
+    QVector<InstanceRow*> withFiles;
+    for (InstanceRow* row : rows) {
+        if (row->state == State::NoIp) {
+            continue;
+        }
+        row->detail.clear();
+        row->state = State::Configured;
+        if (!generatedFiles(project, row->file).isEmpty()) {
+            withFiles.append(row);
+        }
+    }
+    if (withFiles.isEmpty()) {
+        return;
+    }
+    Ipgen::Trial trial(device, project.data());
+    for (InstanceRow* row : qAsConst(withFiles)) {
+        const Ipgen::CatalogueEntry* entry = nullptr;
+        if (!catalogue.pick(row->ip, &entry).ok()) {
+            continue;
+        }
+        const Ipgen::TrialResult result =
+            trial.run(*entry, row->name, project.instance(row->name).config);
+        if (!result.status.ok()) {
+            row->state = State::OutOfDate;
+            row->detail = result.status.text();
+        } else {
+            row->state = compareFiles(result, project.workingDir(), &row->detail);
+        }
+    }
+}
+
+QString stateText(State state) {
+    switch (state) {
+    case State::Unknown:
+        return tr("looking …");
+    case State::NoIp:
+        return tr("IP not on offer");
+    case State::Configured:
+        return tr("configured");
+    case State::Generated:
+        return tr("generated");
+    case State::OutOfDate:
+        return tr("out of date");
+    case State::CheckFailed:
+        return tr("check failed");
+    }
+    return {};
+}
+
+} // namespace Window

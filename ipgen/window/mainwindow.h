@@ -1,0 +1,104 @@
+#pragma once
+
+#include "ipgen/window/settings.h"
+#include "ipgen/window/workbench.h"
+
+#include <QHash>
+#include <QMainWindow>
+
+class QAction;
+class QLabel;
+class QMenu;
+class QSplitter;
+class QStackedWidget;
+class QTabWidget;
+
+namespace Window {
+
+class CataloguePane;
+class InstancePane;
+class LogPane;
+class NoticeBar;
+class WelcomePage;
+
+/// The window: catalogue, instances, and what there is to see of them. Each action is a row of the
+/// table in windowactions.cpp.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Reads devices and plug-ins and opens the project, if any; failures are shown.
+    void start(const QStringList& pluginDirs, const QString& project);
+    Workbench* workbench() { return &m_bench; }
+    /// By its row's name; null when there is none.
+    QAction* action(const char* name) const { return m_actions.value(QLatin1String(name)); }
+
+    // What the actions do.
+    void newProject();
+    void openProject();
+    void openFolder(const QString& folder);
+    void closeProject();
+    void reload();
+    void save();
+    void findIp();
+    void createChosen();
+    void createInstance(const QString& ip);
+    void openSelected();
+    void openInstance(const QString& name);
+    void duplicate();
+    void rename();
+    void check();
+    void generate();
+    void generateAll();
+    void netlist();
+    void remove();
+    void copyCommand();
+    void openOutputFolder();
+    void focusInstances();
+    void showShortcuts();
+    void about();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void makeActions();
+    void makeMenus();
+    void makePages();
+    void onHost();
+    void onProject();
+    void onSelection();
+    void showPage(int number);
+    void showRecent();
+    void tell(const Ipgen::Status& status);
+    void done(const QStringList& command, const QString& text);
+    QStringList targets() const;
+    QString askName(const QString& title, const QString& label, const QString& proposal);
+    void generateThese(const QStringList& names);
+    void runTool(const QString& title, const QStringList& arguments, const QString& success);
+    QStringList pluginArguments() const;
+
+    Settings m_settings;
+    Workbench m_bench;
+    QStringList m_pluginDirs;
+    QHash<QString, QAction*> m_actions;
+    QMenu* m_recentMenu = nullptr;
+    NoticeBar* m_notice = nullptr;
+    QStackedWidget* m_stack = nullptr;
+    WelcomePage* m_welcome = nullptr;
+    QWidget* m_work = nullptr;
+    QLabel* m_projectLabel = nullptr;
+    QLabel* m_deviceLabel = nullptr;
+    QSplitter* m_across = nullptr;
+    QSplitter* m_down = nullptr;
+    CataloguePane* m_catalogue = nullptr;
+    InstancePane* m_instances = nullptr;
+    QTabWidget* m_views = nullptr;
+    LogPane* m_log = nullptr;
+};
+
+} // namespace Window

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDialog>
+
+class QComboBox;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+
+namespace Window {
+
+/// Asks for the folder and the device of a new project, and says at once what is wrong with them.
+class NewProjectDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    NewProjectDialog(const QString& place, QWidget* parent = nullptr);
+    QString folder() const;
+    QString deviceId() const;
+
+private:
+    void browse();
+    void check();
+
+    QLineEdit* m_folder;
+    QComboBox* m_device;
+    QLabel* m_about;
+    QLabel* m_problem;
+    QDialogButtonBox* m_buttons;
+};
+
+/// "60k, 1 quad with 4 lanes, 6 clock inputs" of a device; empty when nothing is known of it.
+QString deviceSummary(const QString& deviceId);
+
+} // namespace Window

@@ -1,0 +1,66 @@
+#include "ipgen/window/theme.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace Window {
+
+namespace {
+
+QPalette darkPalette() {
+    const QColor window(0x2b, 0x2d, 0x30);
+    const QColor base(0x1f, 0x20, 0x23);
+    const QColor text(0xe8, 0xe8, 0xea);
+    const QColor faint(0x8c, 0x8f, 0x94);
+    QPalette palette(QColor(0x3a, 0x3d, 0x41), window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, faint);
+    palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3d, 0x41));
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb5));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x7f, 0xb8, 0xf0));
+    palette.setColor(QPalette::LinkVisited, QColor(0xb9, 0xa0, 0xf0));
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    return palette;
+}
+
+} // namespace
+
+void applyTheme(Settings::Theme theme) {
+    if (theme == Settings::Theme::System) {
+        return;
+    }
+    QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"));
+    QApplication::setStyle(fusion);
+    QApplication::setPalette(theme == Settings::Theme::Dark ? darkPalette()
+                                                            : fusion->standardPalette());
+}
+
+bool isDark(const QPalette& palette) {
+    return palette.color(QPalette::Text).lightness() > palette.color(QPalette::Base).lightness();
+}
+
+QColor goodColor(const QPalette& palette) {
+    return isDark(palette) ? QColor(0x7b, 0xc9, 0x8f) : QColor(0x1b, 0x6e, 0x35);
+}
+
+QColor warningColor(const QPalette& palette) {
+    return isDark(palette) ? QColor(0xf0, 0xc0, 0x60) : QColor(0x8a, 0x55, 0x00);
+}
+
+QColor badColor(const QPalette& palette) {
+    return isDark(palette) ? QColor(0xff, 0x96, 0x8a) : QColor(0xa8, 0x1e, 0x12);
+}
+
+} // namespace Window

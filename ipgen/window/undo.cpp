@@ -1,0 +1,51 @@
+#include "ipgen/window/undo.h"
+
+#include "ipgen/window/workbench.h"
+
+namespace Window {
+
+InstanceChange::InstanceChange(Workbench* bench, const QVector<Change>& changes,
+                               const QString& text)
+    : QUndoCommand(text)
+    , m_bench(bench)
+    , m_changes(changes) {}
+
+void InstanceChange::undo() {
+    QVector<Workbench::Placement> placements;
+    for (const Change& change : qAsConst(m_changes)) {
+        placements.append({change.name, change.before});
+    }
+    m_bench->put(placements);
+}
+
+void InstanceChange::redo() {
+    if (m_done) {
+        m_done = false;
+        return;
+    }
+    QVector<Workbench::Placement> placements;
+    for (const Change& change : qAsConst(m_changes)) {
+        placements.append({change.name, change.after});
+    }
+    m_bench->put(placements);
+}
+
+Renaming::Renaming(Workbench* bench, const QString& from, const QString& to)
+    : QUndoCommand(Workbench::tr("rename %1").arg(from))
+    , m_bench(bench)
+    , m_from(from)
+    , m_to(to) {}
+
+void Renaming::undo() {
+    m_bench->rename(m_to, m_from);
+}
+
+void Renaming::redo() {
+    if (m_done) {
+        m_done = false;
+        return;
+    }
+    m_bench->rename(m_from, m_to);
+}
+
+} // namespace Window
