@@ -13,7 +13,7 @@ class InstanceModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    enum Column { Name, Ip, Lanes, Pll, Rates, Folder, Status, ColumnCount };
+    enum Column { Name, Status, Ip, Lanes, Pll, Rates, Folder, ColumnCount };
     /// The instance's name, from any column.
     static constexpr int nameRole = Qt::UserRole + 1;
 

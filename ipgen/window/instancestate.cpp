@@ -16,21 +16,30 @@ QString tr(const char* text) {
     return QCoreApplication::translate("Window::State", text);
 }
 
+/// Files of other kinds that lie there (logs, what a dialog tried out) say nothing.
 State compareFiles(const Ipgen::TrialResult& trial, const QString& workingDir, QString* detail) {
+    int there = 0;
+    State state = State::Generated;
     for (auto it = trial.files.constBegin(); it != trial.files.constEnd(); ++it) {
         QByteArray bytes;
         const QString path = workingDir + QLatin1Char('/') + it.key();
         const QString name = QFileInfo(path).fileName();
         if (!Utils::readFile(path, &bytes).ok) {
             *detail = tr("%1 is missing").arg(name);
-            return State::OutOfDate;
+            state = State::OutOfDate;
+            continue;
         }
+        ++there;
         if (bytes != it.value()) {
             *detail = tr("%1 differs from what would be generated now").arg(name);
-            return State::OutOfDate;
+            state = State::OutOfDate;
         }
     }
-    return State::Generated;
+    if (there == 0) {
+        detail->clear();
+        return State::Configured;
+    }
+    return state;
 }
 
 } // namespace

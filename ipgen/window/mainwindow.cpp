@@ -3,6 +3,7 @@
 #include "ipgen/window/cataloguepane.h"
 #include "ipgen/window/instancepane.h"
 #include "ipgen/window/logpane.h"
+#include "ipgen/window/mappane.h"
 #include "ipgen/window/named.h"
 #include "ipgen/window/newprojectdialog.h"
 #include "ipgen/window/noticebar.h"
@@ -76,6 +77,10 @@ void MainWindow::makePages() {
     m_instances = new InstancePane(&m_bench, this);
     m_views = named(new QTabWidget(this), "views", tr("Views of the project"));
     m_views->setDocumentMode(true);
+    m_map = new MapPane(&m_bench, this);
+    m_views->addTab(m_map, tr("Quad map"));
+    auto* resources = new ResourceTable(&m_bench, this);
+    m_views->addTab(resources, tr("Resources"));
     m_log = new LogPane(this);
     m_views->addTab(m_log, tr("Log"));
 
@@ -117,6 +122,8 @@ void MainWindow::makePages() {
         m_settings.removeRecent(folder);
         showRecent();
     });
+    connect(m_map, &MapPane::openRequested, this, &MainWindow::openInstance);
+    connect(resources, &ResourceTable::openRequested, this, &MainWindow::openInstance);
     connect(m_catalogue, &CataloguePane::createRequested, this, &MainWindow::createInstance);
     connect(m_instances, &InstancePane::openRequested, this, &MainWindow::openInstance);
     connect(m_instances, &InstancePane::selectionChanged, this, &MainWindow::onSelection);
@@ -140,8 +147,8 @@ void MainWindow::onHost() {
                        tr("%1: %2").arg(problems.first().path, problems.first().reason));
     } else if (!problems.isEmpty()) {
         m_notice->show(NoticeBar::Kind::Warning,
-                       tr("%n plug-ins could not be loaded; the catalogue says why.", nullptr,
-                          problems.size()));
+                       tr("Plug-ins that could not be loaded: %1. The catalogue says why.")
+                           .arg(problems.size()));
     } else if (m_bench.catalogue().entries().empty()) {
         m_notice->show(NoticeBar::Kind::Warning,
                        tr("No IP plug-in was found. Install one, or start with --plugin-dir DIR."));
@@ -191,6 +198,7 @@ void MainWindow::showRecent() {
 
 void MainWindow::onSelection() {
     const bool project = m_bench.hasProject();
+    m_map->setHighlighted(project ? m_instances->current() : QString());
     const int selected = project ? m_instances->selected().size() : 0;
     const auto enable = [this](std::initializer_list<const char*> names, bool on) {
         for (const char* name : names) {
@@ -204,9 +212,7 @@ void MainWindow::onSelection() {
     enable({"check", "generate", "netlist", "remove", "copycommand"}, selected > 0);
     if (project) {
         statusBar()->showMessage(
-            selected > 0
-                ? tr("%1 of %n instance(s) selected", nullptr, m_bench.rows().size()).arg(selected)
-                : tr("%n instance(s)", nullptr, m_bench.rows().size()));
+            tr("Instances: %1, selected: %2").arg(m_bench.rows().size()).arg(selected));
     } else {
         statusBar()->clearMessage();
     }

@@ -18,6 +18,7 @@ namespace Window {
 class CataloguePane;
 class InstancePane;
 class LogPane;
+class MapPane;
 class NoticeBar;
 class WelcomePage;
 
@@ -98,6 +99,7 @@ private:
     CataloguePane* m_catalogue = nullptr;
     InstancePane* m_instances = nullptr;
     QTabWidget* m_views = nullptr;
+    MapPane* m_map = nullptr;
     LogPane* m_log = nullptr;
 };
 

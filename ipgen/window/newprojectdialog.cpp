@@ -24,10 +24,10 @@ QString deviceSummary(const QString& deviceId) {
     if (!info) {
         return {};
     }
-    return NewProjectDialog::tr("class %1, %2, %3 lanes each, %4 clock inputs")
+    return NewProjectDialog::tr("class %1, quads: %2, lanes: %3, clock inputs: %4")
         .arg(info->className)
-        .arg(NewProjectDialog::tr("%n quad(s)", nullptr, info->quads))
-        .arg(info->lanesPerQuad)
+        .arg(info->quads)
+        .arg(info->quads * info->lanesPerQuad)
         .arg(info->pins.size());
 }
 

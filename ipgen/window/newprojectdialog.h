@@ -29,7 +29,7 @@ private:
     QDialogButtonBox* m_buttons;
 };
 
-/// "60k, 1 quad with 4 lanes, 6 clock inputs" of a device; empty when nothing is known of it.
+/// "class 60k, quads: 1, lanes: 4, clock inputs: 6" of a device; empty when nothing is known of it.
 QString deviceSummary(const QString& deviceId);
 
 } // namespace Window

@@ -237,12 +237,12 @@ void MainWindow::check() {
     }
     if (failed == 0) {
         m_notice->show(NoticeBar::Kind::Information,
-                       tr("The checks of %n instance(s) pass.", nullptr, names.size()));
+                       tr("Passed the check: %1").arg(names.join(QStringLiteral(", "))));
     } else {
         m_notice->show(NoticeBar::Kind::Error,
-                       tr("%1 of %n instance(s) failed the check; the state's tooltip says why.",
-                          nullptr, names.size())
-                           .arg(failed));
+                       tr("Failed the check: %1 of %2. The state's tooltip says why.")
+                           .arg(failed)
+                           .arg(names.size()));
     }
 }
 
@@ -280,10 +280,10 @@ void MainWindow::generateThese(const QStringList& names) {
         m_notice->show(NoticeBar::Kind::Error, failures.join(QLatin1Char('\n')));
     } else if (written == names.size()) {
         m_notice->show(NoticeBar::Kind::Information,
-                       tr("Generated %n instance(s).", nullptr, written));
+                       tr("Generated: %1").arg(names.join(QStringLiteral(", "))));
     } else {
         m_notice->show(NoticeBar::Kind::Warning,
-                       tr("Cancelled after %n instance(s).", nullptr, written));
+                       tr("Cancelled. Generated: %1 of %2.").arg(written).arg(names.size()));
     }
 }
 

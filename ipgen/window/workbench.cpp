@@ -392,7 +392,7 @@ Status Workbench::removeInstances(const QStringList& names) {
         m_undo.push(new InstanceChange(this, changes,
                                        names.size() == 1
                                            ? tr("remove %1").arg(names.first())
-                                           : tr("remove %n instances", nullptr, names.size())));
+                                           : tr("remove instances (%1)").arg(names.size())));
     }
     return saved;
 }

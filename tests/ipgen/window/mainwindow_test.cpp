@@ -1,0 +1,350 @@
+// The window from the outside: its main path by keyboard alone, what assistive tools see of it, and
+// that it does what the commands do.
+
+#include "ipgen/window/mainwindow.h"
+#include "ipgen/window/noticebar.h"
+
+#include <serdesip/protocolgendlg.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTableView>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+using namespace Window;
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void everyFocusableWidgetHasAName();
+    void everyActionHasTextKeyAndTip();
+    void mainPathByKeyboard();
+    void sameBytesAsTheCommand();
+    void statesFollowTheFiles();
+    void removeAndUndo();
+    void secondWindowIsTold();
+    void changesFromOutsideShowUp();
+    void damagedProjectIsReported();
+
+private:
+    QString example(int instances);
+    QString noticeText() const;
+
+    QTemporaryDir m_home;
+    std::unique_ptr<QTemporaryDir> m_place;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+namespace {
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+int runProgram(const QStringList& arguments) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QStringLiteral(IPGEN), arguments);
+    process.waitForFinished(60000);
+    return process.exitCode();
+}
+
+/// Does something once a window of this class is in front and ready for keys.
+template <class W>
+void whenShown(const std::function<void(W*)>& action) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
+        W* found = nullptr;
+        const QWidgetList all = QApplication::topLevelWidgets();
+        for (QWidget* one : all) {
+            if (one->isVisible() && qobject_cast<W*>(one) != nullptr) {
+                found = qobject_cast<W*>(one);
+            }
+        }
+        if (found != nullptr) {
+            timer->stop();
+            timer->deleteLater();
+            action(found);
+        }
+    });
+    timer->start(20);
+}
+
+} // namespace
+
+void MainWindowTest::initTestCase() {
+    QVERIFY(m_home.isValid());
+    qputenv("XDG_CONFIG_HOME", m_home.path().toUtf8());
+    qputenv("XDG_CACHE_HOME", m_home.path().toUtf8());
+}
+
+void MainWindowTest::init() {
+    m_place = std::make_unique<QTemporaryDir>();
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    m_window->start({}, QString());
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(m_window->workbench()->catalogue().entries().size() >= 1);
+}
+
+void MainWindowTest::cleanup() {
+    m_window.reset();
+    m_place.reset();
+}
+
+/// A project with instances that the command line has made.
+QString MainWindowTest::example(int instances) {
+    const QString folder = m_place->filePath(QStringLiteral("example"));
+    if (runProgram({QStringLiteral("new"), folder, QStringLiteral("--device"),
+                    QStringLiteral("RZ7X-60B")}) != 0) {
+        return {};
+    }
+    Ipgen::Project project;
+    const Ipgen::Catalogue& catalogue = m_window->workbench()->catalogue();
+    if (!Ipgen::Project::load(folder, &project).ok()) {
+        return {};
+    }
+    for (int i = 0; i < instances; ++i) {
+        const QString name = QStringLiteral("link%1").arg(i);
+        project.setInstance(name, {catalogue.entries().front().id,
+                                   {{QStringLiteral("target_device"), QStringLiteral("RZ7X-60B")},
+                                    {QStringLiteral("file"), name},
+                                    {QStringLiteral("module"), name}}});
+    }
+    return project.save().ok() ? folder : QString();
+}
+
+QString MainWindowTest::noticeText() const {
+    return m_window->findChild<NoticeBar*>()->text();
+}
+
+void MainWindowTest::everyFocusableWidgetHasAName() {
+    m_window->openFolder(example(2));
+    QStringList nameless;
+    const QList<QWidget*> all = m_window->findChildren<QWidget*>();
+    int looked = 0;
+    for (const QWidget* widget : all) {
+        const bool inner = widget->objectName().startsWith(QLatin1String("qt_")) ||
+                           widget->inherits("QHeaderView") || widget->inherits("QTabBar") ||
+                           widget->inherits("QMenu") || widget->inherits("QMenuBar");
+        // A toolbar's button takes its name from its action's text.
+        const bool button = widget->inherits("QToolButton") &&
+                            !static_cast<const QAbstractButton*>(widget)->text().isEmpty();
+        if (widget->focusPolicy() != Qt::NoFocus && !inner && !button) {
+            ++looked;
+            if (widget->accessibleName().isEmpty()) {
+                nameless.append(QStringLiteral("%1 \"%2\"")
+                                    .arg(QLatin1String(widget->metaObject()->className()),
+                                         widget->objectName()));
+            }
+        }
+    }
+    QVERIFY(looked > 8);
+    QCOMPARE(nameless.join(QStringLiteral(", ")), QString());
+}
+
+void MainWindowTest::everyActionHasTextKeyAndTip() {
+    QStringList poor;
+    QHash<QString, QString> keys;
+    int looked = 0;
+    const QList<QAction*> all = m_window->findChildren<QAction*>();
+    for (const QAction* action : all) {
+        if (action->objectName().isEmpty() || action->isSeparator() || action->menu() != nullptr ||
+            action->objectName().startsWith(QLatin1Char('_'))) {
+            continue; // Qt's own
+        }
+        ++looked;
+        const QString key = action->shortcut().toString();
+        if (action->text().isEmpty() || key.isEmpty() || action->toolTip().isEmpty() ||
+            keys.contains(key)) {
+            poor.append(action->objectName());
+        }
+        keys.insert(key, action->objectName());
+    }
+    QVERIFY(looked > 20);
+    QCOMPARE(poor.join(QStringLiteral(", ")), QString());
+}
+
+void MainWindowTest::mainPathByKeyboard() {
+    const QString folder = m_place->filePath(QStringLiteral("byKeys"));
+    QWidget* window = m_window.get();
+    // A project for the device.
+    whenShown<QDialog>([&](QDialog* dialog) {
+        auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("newProjectFolder"));
+        QApplication::setActiveWindow(dialog);
+        QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(edit, folder);
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
+    QTest::keyClick(window, Qt::Key_N, Qt::ControlModifier);
+    QVERIFY(m_window->workbench()->hasProject());
+    QCOMPARE(m_window->workbench()->project().folder(), folder);
+    // The IP by a part of its name, created with OK.
+    auto* search = m_window->findChild<QLineEdit*>(QStringLiteral("catalogueSearch"));
+    QTest::keyClick(window, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(search, QStringLiteral("custom"));
+    whenShown<QInputDialog>([&](QInputDialog* dialog) {
+        whenShown<IPSERDESIP::protocolGenDlg>([](IPSERDESIP::protocolGenDlg* ip) {
+            // Its own fields are the IP's business; a lane by the space bar is enough here.
+            auto* lane = ip->findChild<QAbstractButton*>(QStringLiteral("q0_l0"));
+            if (lane != nullptr && !lane->isChecked()) {
+                QTest::keyClick(lane, Qt::Key_Space);
+            }
+            auto* buttons = ip->findChild<QDialogButtonBox*>();
+            auto* ok = buttons != nullptr ? buttons->button(QDialogButtonBox::Ok) : nullptr;
+            QTimer boxes; // whatever the IP asks or says is answered with Yes, or closed
+            connect(&boxes, &QTimer::timeout, [] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (box == nullptr) {
+                    return;
+                }
+                QWidget* yes = box->button(QMessageBox::Yes);
+                QTest::keyClick(yes != nullptr ? yes : box,
+                                yes != nullptr ? Qt::Key_Space : Qt::Key_Escape);
+            });
+            boxes.start(20);
+            if (ok != nullptr) {
+                QTest::keyClick(ok, Qt::Key_Space);
+            }
+            if (ip->isVisible()) {
+                ip->reject();
+            }
+        });
+        QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    QTest::keyClick(search, Qt::Key_Return);
+    QVERIFY2(m_window->workbench()->rows().size() == 1, qPrintable(noticeText()));
+    QApplication::setActiveWindow(window); // as a window manager does after a dialog
+    // The resources, then the files.
+    QTest::keyClick(window, Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(m_window->findChild<QTabWidget*>(QStringLiteral("views"))->currentIndex(), 1);
+    QTest::keyClick(window, Qt::Key_F8, Qt::ShiftModifier);
+    const QString name = m_window->workbench()->rows().first().name;
+    QTRY_VERIFY2(m_window->workbench()->row(name)->state == State::Generated,
+                 qPrintable(noticeText()));
+}
+
+void MainWindowTest::sameBytesAsTheCommand() {
+    const QString folder = example(2);
+    m_window->openFolder(folder);
+    m_window->action("generateall")->trigger();
+    QMap<QString, QByteArray> fromWindow;
+    for (const InstanceRow& row : m_window->workbench()->rows()) {
+        const QStringList files = generatedFiles(m_window->workbench()->project(), row.file);
+        for (const QString& path : files) {
+            fromWindow.insert(path, bytesOf(path));
+            QVERIFY(QFile::remove(path));
+        }
+    }
+    QVERIFY(fromWindow.size() >= 2);
+    QCOMPARE(runProgram({QStringLiteral("generate"), folder}), 0);
+    for (auto it = fromWindow.constBegin(); it != fromWindow.constEnd(); ++it) {
+        QCOMPARE(bytesOf(it.key()), it.value());
+    }
+}
+
+void MainWindowTest::statesFollowTheFiles() {
+    m_window->openFolder(example(1));
+    Workbench* bench = m_window->workbench();
+    QTRY_COMPARE(bench->row(QStringLiteral("link0"))->state, State::Configured);
+    // What an IP leaves there beside its generation makes nothing out of date.
+    const QString folder = bench->project().workingDir() + QStringLiteral("/link0/temp");
+    QVERIFY(QDir().mkpath(folder));
+    QFile other(folder + QStringLiteral("/other.log"));
+    QVERIFY(other.open(QIODevice::WriteOnly));
+    other.close();
+    bench->refreshStates();
+    QTRY_COMPARE(bench->row(QStringLiteral("link0"))->state, State::Configured);
+    m_window->action("generateall")->trigger();
+    QTRY_COMPARE(bench->row(QStringLiteral("link0"))->state, State::Generated);
+    const QString path = generatedFiles(bench->project(), QStringLiteral("link0"))
+                             .filter(QStringLiteral(".vh"))
+                             .first();
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::Append));
+    file.write("// touched\n");
+    file.close();
+    bench->refreshStates();
+    QTRY_COMPARE(bench->row(QStringLiteral("link0"))->state, State::OutOfDate);
+    QVERIFY(bench->row(QStringLiteral("link0"))->detail.contains(QFileInfo(path).fileName()));
+}
+
+void MainWindowTest::removeAndUndo() {
+    const QString folder = example(3);
+    m_window->openFolder(folder);
+    const QByteArray before = bytesOf(folder + QStringLiteral("/project.json"));
+    auto* table = m_window->findChild<QTableView*>(QStringLiteral("instanceTable"));
+    table->selectAll();
+    QTest::keyClick(table, Qt::Key_Delete, Qt::ControlModifier);
+    QCOMPARE(m_window->workbench()->rows().size(), 0);
+    Ipgen::Project project;
+    QVERIFY(Ipgen::Project::load(folder, &project).ok());
+    QCOMPARE(project.instanceNames().size(), 0);
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(bytesOf(folder + QStringLiteral("/project.json")), before);
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_window->workbench()->rows().size(), 0);
+}
+
+void MainWindowTest::secondWindowIsTold() {
+    const QString folder = example(1);
+    m_window->openFolder(folder);
+    QCOMPARE(m_window->workbench()->otherUser(), QString());
+    MainWindow second;
+    second.show();
+    second.start({}, folder);
+    QVERIFY(!second.workbench()->otherUser().isEmpty());
+    QVERIFY(second.findChild<NoticeBar*>()->isVisible());
+    // Both change the project; both changes are in the file.
+    QVERIFY(m_window->workbench()
+                ->duplicateInstance(QStringLiteral("link0"), QStringLiteral("a"))
+                .ok());
+    QVERIFY(
+        second.workbench()->duplicateInstance(QStringLiteral("link0"), QStringLiteral("b")).ok());
+    Ipgen::Project project;
+    QVERIFY(Ipgen::Project::load(folder, &project).ok());
+    QCOMPARE(project.instanceNames(),
+             QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("link0")}));
+}
+
+void MainWindowTest::changesFromOutsideShowUp() {
+    const QString folder = example(2);
+    m_window->openFolder(folder);
+    QCOMPARE(m_window->workbench()->rows().size(), 2);
+    QCOMPARE(runProgram({QStringLiteral("remove"), folder, QStringLiteral("link1")}), 0);
+    QTRY_COMPARE(m_window->workbench()->rows().size(), 1);
+}
+
+void MainWindowTest::damagedProjectIsReported() {
+    const QString folder = example(1);
+    QFile file(folder + QStringLiteral("/project.json"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("{\n  \"format\": 1,\n  oops\n");
+    file.close();
+    m_window->openFolder(folder);
+    QVERIFY(!m_window->workbench()->hasProject());
+    QVERIFY2(noticeText().contains(QStringLiteral("line 3")), qPrintable(noticeText()));
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "mainwindow_test.moc"
