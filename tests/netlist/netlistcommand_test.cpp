@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -22,9 +23,10 @@ struct Outcome {
 /// A project with one instance "link0".
 class ProjectFolder {
 public:
-    explicit ProjectFolder(const QJsonObject& changes = {}) {
+    explicit ProjectFolder(const QJsonObject& changes = {}, const char* deviceClass = "60k",
+                           const QList<int>& lanes = {0}) {
         const Configuration c =
-            configuration(QStringLiteral("link0"), QStringLiteral("60k"), {0}, changes);
+            configuration(QStringLiteral("link0"), QLatin1String(deviceClass), lanes, changes);
         const QJsonObject instance{{QStringLiteral("ip"), QStringLiteral("customized")},
                                    {QStringLiteral("config"), c.config}};
         const QJsonObject project{{QStringLiteral("format"), 1},
@@ -95,6 +97,8 @@ private Q_SLOTS:
     void interruptCancels_data();
     void interruptCancels();
     void exampleOfAnUnknownInstance();
+    void portsAreTheFiguresPins_data();
+    void portsAreTheFiguresPins();
 };
 
 void NetlistCommandTest::writesTheNetlist() {
@@ -194,6 +198,63 @@ void NetlistCommandTest::exampleOfAnUnknownInstance() {
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.err.startsWith("ipgen: nobody: "), outcome.err);
     QVERIFY(!QFile::exists(out));
+}
+
+void NetlistCommandTest::portsAreTheFiguresPins_data() {
+    QTest::addColumn<QByteArray>("device");
+    QTest::addColumn<QList<int>>("lanes");
+    QTest::addColumn<QJsonObject>("changes");
+    const auto row = [](const char* tag, const char* device, const QList<int>& lanes,
+                        const QJsonObject& changes) {
+        QTest::newRow(tag) << QByteArray(device) << lanes << changes;
+    };
+    const QJsonObject blocks{{QStringLiteral("TX_ENCODING"), QStringLiteral("64B66B")},
+                             {QStringLiteral("RX_DECODING"), QStringLiteral("64B66B")},
+                             {QStringLiteral("TX_INTERNAL_DATA_WIDTH"), QStringLiteral("16")},
+                             {QStringLiteral("RX_INTERNAL_DATA_WIDTH"), QStringLiteral("16")},
+                             {QStringLiteral("TX_EXTERNAL_DATA_RATIO"), QStringLiteral("1:4")},
+                             {QStringLiteral("RX_EXTERNAL_DATA_RATIO"), QStringLiteral("1:4")},
+                             {QStringLiteral("DRP_Ports"), true}};
+    const QJsonObject options{{QStringLiteral("WORD_ALIGNMENT"), true},
+                              {QStringLiteral("RX_CHANNEL_BONDING"), QStringLiteral("Two Words")},
+                              {QStringLiteral("CLOCK_CORRECTION"), QStringLiteral("One Word")}};
+    row("plain, 60k", "60k", {0}, {});
+    row("blocks and reconfiguration, 15k", "15k", {3}, blocks);
+    row("two lanes with options, 60k", "60k", {1, 2}, options);
+    row("two quads with options, 138k", "138k", {0, 5}, options);
+}
+
+// The netlist against the symbol that the dialog itself draws, order included.
+void NetlistCommandTest::portsAreTheFiguresPins() {
+    QFETCH(QByteArray, device);
+    QFETCH(QList<int>, lanes);
+    QFETCH(QJsonObject, changes);
+    const ProjectFolder project(changes, device.constData(), lanes);
+    QVERIFY(project.isMade());
+    const Outcome figure = project.ipgen({QStringLiteral("figure"), project.root.path(),
+                                          QStringLiteral("link0"), QStringLiteral("--json")});
+    QVERIFY2(figure.status == 0, figure.err);
+    const Outcome generated = project.generate();
+    QVERIFY2(generated.status == 0, generated.err);
+    QByteArray netlist = project.read("Link0_netlist.v");
+    netlist.replace("\n, ", ", "); // a long port list goes over several lines
+
+    QStringList pins;
+    for (const QJsonValue& value : QJsonDocument::fromJson(figure.out).array()) {
+        const QString name = value.toObject()[QStringLiteral("name")].toString();
+        const QString bare = name.section(QLatin1Char('['), 0, 0);
+        const QString range = name.mid(bare.size());
+        pins.append(bare);
+        // The port's name ends in its direction; the symbol draws one input among the outputs.
+        const QByteArray direction = bare.endsWith(QLatin1String("_i")) ? "input" : "output";
+        const QByteArray declared = "  " + direction + ' ' +
+                                    (range.isEmpty() ? "" : range.toUtf8() + ' ') + bare.toUtf8() +
+                                    ";\n";
+        QVERIFY2(netlist.contains(declared), declared);
+    }
+    QVERIFY(pins.size() > 20);
+    QVERIFY2(netlist.contains("module Link0(" + pins.join(QStringLiteral(", ")).toUtf8() + ");"),
+             netlist.left(3000));
 }
 
 QTEST_GUILESS_MAIN(NetlistCommandTest)

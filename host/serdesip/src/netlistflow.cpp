@@ -16,6 +16,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <dlfcn.h>
 #include <memory>
 #include <unistd.h>
@@ -192,7 +193,7 @@ NetlistFlow::Stop NetlistFlow::checkOptions() {
     return {};
 }
 
-// Copies what the run reads: the primitives, the IP's RTL, the generated files.
+// Brings together what the run reads: the primitives, the IP's RTL, the generated files.
 NetlistFlow::Stop NetlistFlow::collect(const Request& request) {
     const QString primitives = m_run.primitives.isEmpty() ? hostPrimitives() : m_run.primitives;
     const QString rtl = request.info.value(QStringLiteral("ipcore.dir.data")).toString();
@@ -221,8 +222,9 @@ NetlistFlow::Stop NetlistFlow::collectFolder(const QString& folder) {
         }
         const QString copy = m_workFolder + QLatin1Char('/') + entry.fileName();
         QFile::remove(copy);
+        // A link is enough, and a copy where the file system has none.
         QFile source(entry.filePath());
-        if (!source.copy(copy)) {
+        if (!QFile::link(entry.absoluteFilePath(), copy) && !source.copy(copy)) {
             return {Failure::Output, QStringLiteral("%1: cannot be copied: %2")
                                          .arg(entry.filePath(), source.errorString())};
         }
@@ -284,7 +286,7 @@ NetlistFlow::Stop NetlistFlow::synthesise() {
         return {Failure::Tool,
                 QStringLiteral("%1 cannot be started: %2").arg(m_program, outcome.detail)};
     case SynthesisProcess::End::Failed: {
-        const QString error = errorInLog(m_workFolder + QLatin1Char('/') + logFile);
+        const QString error = errorInLog(log);
         return {
             Failure::Tool,
             QStringLiteral("%1 failed: %2; its log is %3")
@@ -309,9 +311,10 @@ NetlistFlow::Stop NetlistFlow::synthesise() {
 
 // The log is for reading only: a run does not fail over it.
 void NetlistFlow::keepLog() const {
-    QByteArray log;
-    if (Utils::readFile(m_workFolder + QLatin1Char('/') + logFile, &log)) {
-        Utils::replaceFile(m_instanceFolder + QLatin1Char('/') + logFile, log);
+    const QByteArray from = QFile::encodeName(m_workFolder + QLatin1Char('/') + logFile);
+    const QByteArray to = QFile::encodeName(m_instanceFolder + QLatin1Char('/') + logFile);
+    if (QFileInfo(m_workFolder + QLatin1Char('/') + logFile).isFile()) {
+        static_cast<void>(std::rename(from.constData(), to.constData()));
     }
 }
 

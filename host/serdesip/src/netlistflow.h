@@ -11,7 +11,7 @@ namespace IPSERDESIP {
 class SynthesisProcess;
 
 /// One netlist run from the checks of its inputs to the netlist in place. The synthesis program
-/// works in a folder of its own inside the instance's, on copies, so that its script holds fixed
+/// works in a folder of its own inside the instance's, on links, so that its script holds fixed
 /// texts, checked names and no path.
 class NetlistFlow {
 public:
