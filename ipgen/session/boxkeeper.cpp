@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace Ipgen::Session {
 
 namespace {
@@ -76,6 +78,10 @@ QList<QAbstractButton*> answersOf(const QMessageBox* box) {
             answers.append(button);
         }
     }
+    // Qt lists them by role; the eye goes from left to right.
+    std::stable_sort(
+        answers.begin(), answers.end(),
+        [](const QAbstractButton* a, const QAbstractButton* b) { return a->x() < b->x(); });
     return answers;
 }
 

@@ -27,10 +27,12 @@ QString vanished() {
 
 /// The focus goes on, as with the Tab key: fields tell their rules that editing has ended.
 void leave(QWidget* field, QWidget* rest) {
+    const QPointer<QWidget> alive(field);
     if (rest != nullptr) {
         rest->setFocus(Qt::TabFocusReason);
-    } else {
-        field->clearFocus();
+    }
+    if (alive && alive->hasFocus()) {
+        alive->clearFocus();
     }
 }
 
