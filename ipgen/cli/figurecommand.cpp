@@ -57,9 +57,7 @@ public:
         const bool picture = !m_png.empty();
         const Utils::FileResult written = Utils::replaceFile(fromArgument(picture ? m_png : m_svg),
                                                              picture ? figure.png() : figure.svg());
-        return written ? Exit::Done
-                       : context.tell({Exit::BadOutput, written.path,
-                                       QStringLiteral("cannot write: ") + written.reason});
+        return written ? Exit::Done : context.tell({Exit::BadOutput, written.path, written.reason});
     }
 
 private:

@@ -18,9 +18,7 @@ constexpr int showPause = 600;
 
 Status writeFile(const std::string& path, const QByteArray& bytes) {
     const Utils::FileResult result = Utils::replaceFile(fromArgument(path), bytes);
-    return result ? Status()
-                  : Status(Exit::BadOutput, result.path,
-                           QStringLiteral("cannot write: ") + result.reason);
+    return result ? Status() : Status(Exit::BadOutput, result.path, result.reason);
 }
 
 } // namespace
@@ -72,7 +70,7 @@ Status SessionOptions::readScript() {
     } else {
         const Utils::FileResult read = Utils::readFile(name, &text);
         if (!read) {
-            return {Exit::BadInput, read.path, QStringLiteral("cannot read: ") + read.reason};
+            return {Exit::BadInput, read.path, read.reason};
         }
     }
     const QString error = Session::parseScript(text, &m_script);
