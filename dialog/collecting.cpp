@@ -35,11 +35,10 @@ ConfigMap customizeddlg::snapshot() const {
     return config;
 }
 
-void customizeddlg::writeDialogLaneLines(const ConfigMap& widgets, const QString& lanePrefix,
+void customizeddlg::writeDialogLaneLines(const LaneLines& lines, const QString& lanePrefix,
                                          const QString& quadPrefix) {
     QStringList unused;
-    LaneLines(widgets, m_class, dialogWriter)
-        .append(unused, unused, m_script, lanePrefix, QString(), quadPrefix);
+    lines.append(unused, unused, m_script, lanePrefix, QString(), quadPrefix);
 }
 
 bool customizeddlg::writeDialogRefClockFreqLines(const QStringList& names,
@@ -55,10 +54,13 @@ bool customizeddlg::collectConfig() {
     const ConfigMap widgets = snapshot();
     const ConfigView view(widgets);
 
+    constexpr int usualLines = 56; // of a lane
+    m_script.reserve((m_selectedLanes.size() + 1) * usualLines);
     m_script += bondingControlLines(m_class);
+    const LaneLines lines(widgets, m_class, dialogWriter);
     for (const QString& caption : qAsConst(m_selectedLanes)) {
         const Lane* lane = laneByCaption(caption);
-        writeDialogLaneLines(widgets, lane->prefix,
+        writeDialogLaneLines(lines, lane->prefix,
                              quadPrefixes[static_cast<std::size_t>(lane->quad)]);
     }
     const ReferenceClocks clocks = referenceClocks(view, m_class);

@@ -19,6 +19,8 @@ namespace IPCUSTOMIZED {
 
 using IPSERDESIP::ConfigMap;
 
+class LaneLines;
+
 /// The configuration dialog. Its rules are slots, each a few lines around a pure decision of
 /// dialog/rules; each source file beside this header holds one group of them.
 class customizeddlg : public IPSERDESIP::protocolGenDlg {
@@ -122,7 +124,7 @@ private:
     // Collecting and loading
     bool collectConfig();
     ConfigMap snapshot() const;
-    void writeDialogLaneLines(const ConfigMap& widgets, const QString& lanePrefix,
+    void writeDialogLaneLines(const LaneLines& lines, const QString& lanePrefix,
                               const QString& quadPrefix);
     bool writeDialogRefClockFreqLines(const QStringList& names, const QStringList& frequencies);
     void loadWidgets(const ConfigMap& config);

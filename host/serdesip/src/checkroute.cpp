@@ -82,11 +82,12 @@ bool serdes::Private::checkLane(const QString& lane, const QString& pllMux, cons
 
 bool serdes::checkRoute(const QStringList& lanes, const QString& pll, const QString& source,
                         double frequency) {
+    const QString pin = pinName(source);
     bool found = true;
     for (const QString& lane : lanes) {
         LaneRoute route;
         route.pll = pllKind(pll);
-        route.pllReference = route.rxReference = pinName(source);
+        route.pllReference = route.rxReference = pin;
         route.pllFrequency = route.rxFrequency = frequency;
         found = d->checkLane(lane, QString(), QString(), route) && found;
         d->routes.insert(lane, route);

@@ -14,12 +14,17 @@ namespace {
 constexpr int maxErrors = 20; // as many as a message box can show
 
 void addLine(QByteArray& text, const QString& name, const QString& value) {
-    text += name.toUtf8() + ' ' + value.toUtf8() + '\n';
+    text += name.toUtf8();
+    text += ' ';
+    text += value.toUtf8();
+    text += '\n';
 }
 
 QByteArray resolvedText(const Script& script, const DEV::DeviceInfo& device,
                         const QVector<LaneClock>& clocks) {
+    constexpr int usualLine = 48; // bytes
     QByteArray text;
+    text.reserve(script.names().size() * usualLine);
     addLine(text, QStringLiteral("device"), device.model);
     addLine(text, QStringLiteral("class"), device.className);
     for (const QString& name : script.names()) {

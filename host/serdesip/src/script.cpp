@@ -11,16 +11,15 @@ namespace IPSERDESIP {
 namespace {
 
 /// Why the device cannot have a setting of this name; empty: it can.
-QString deviceProblem(const QString& name, const DEV::DeviceInfo& device) {
-    static const QRegularExpression prefix(QStringLiteral("\\Aq([0-9])_(?:ln([0-9])_)?"));
-    const QRegularExpressionMatch match = prefix.match(name);
-    if (match.hasMatch() && match.captured(1).toInt() >= device.quads) {
-        return QStringLiteral("%1 has no quad %2").arg(device.model, match.captured(1));
+QString deviceProblem(const SettingPrefix& prefix, const QString& pin,
+                      const DEV::DeviceInfo& device) {
+    if (prefix.quad >= device.quads) {
+        return QStringLiteral("%1 has no quad %2").arg(device.model, QString::number(prefix.quad));
     }
-    if (match.captured(2).toInt() >= device.lanesPerQuad) {
-        return QStringLiteral("%1 has no lane %2 in a quad").arg(device.model, match.captured(2));
+    if (prefix.lane >= device.lanesPerQuad) {
+        return QStringLiteral("%1 has no lane %2 in a quad")
+            .arg(device.model, QString::number(prefix.lane));
     }
-    const QString pin = pinOfSetting(name);
     if (!pin.isEmpty() && !device.pins.contains(pin)) {
         return QStringLiteral("%1 has no reference clock %2").arg(device.model, pin);
     }
@@ -29,10 +28,9 @@ QString deviceProblem(const QString& name, const DEV::DeviceInfo& device) {
 
 /// The name and the value are one blank apart. The lines that name a quad-1 master of the clock
 /// correction have two.
-QString valueOf(const QString& text, int blank) {
-    const QString name = text.left(blank);
+QString valueOf(const QString& text, const QString& name, int blank) {
     QString value = text.mid(blank + 1);
-    if (name.endsWith(QLatin1String("_ctc_mst_sel")) && value.startsWith(QLatin1String(" q1_"))) {
+    if (value.startsWith(QLatin1String(" q1_")) && name.endsWith(QLatin1String("_ctc_mst_sel"))) {
         value.remove(0, 1);
     }
     return value;
@@ -47,6 +45,9 @@ QString lineError(int line, const QString& sentence) {
 QString pinOfSetting(const QString& name) {
     if (name == QLatin1String("mclk_freq")) {
         return QStringLiteral("MCLK");
+    }
+    if (!name.endsWith(QLatin1String("_freq"))) {
+        return {}; // as nearly all settings: spare them the expression
     }
     static const QRegularExpression form(
         QStringLiteral("\\A(q[0-9])_(?:(refclk[0-3])|gpio([0-3]?))_freq\\z"));
@@ -64,14 +65,16 @@ void Script::takeLine(const QString& text, int number, const DEV::DeviceInfo& de
     const int blank = text.indexOf(QLatin1Char(' '));
     const QString name = text.left(blank);
     const auto fail = [&](const QString& sentence) { errors->append(lineError(number, sentence)); };
-    const SettingRow* row = findSetting(name);
+    const SettingPrefix prefix = settingPrefix(name);
+    const SettingRow* row = findSetting(name, prefix);
     if (blank < 1 || row == nullptr) {
         fail(blank < 1 ? QStringLiteral("\"%1\" is no setting name, blank and value").arg(text)
                        : QStringLiteral("unknown setting \"%1\"").arg(name));
         return;
     }
-    const QString value = valueOf(text, blank);
-    QString problem = deviceProblem(name, device);
+    const QString value = valueOf(text, name, blank);
+    const QString pin = pinOfSetting(name);
+    QString problem = deviceProblem(prefix, pin, device);
     if (problem.isEmpty()) {
         problem = value.contains(QLatin1Char(' ')) ? QStringLiteral("has a blank in its value")
                                                    : valueProblem(*row, value);
@@ -80,10 +83,13 @@ void Script::takeLine(const QString& text, int number, const DEV::DeviceInfo& de
         fail(QStringLiteral("%1 \"%2\": %3").arg(name, value, problem));
         return;
     }
-    const Setting known = m_settings.value(name);
+    Setting& known = m_settings[name];
     if (known.line == 0) {
+        known = {value, number};
         m_names.append(name);
-        m_settings.insert(name, {value, number});
+        if (!pin.isEmpty()) {
+            m_pins.append({pin, name});
+        }
     } else if (known.value != value) {
         fail(QStringLiteral("%1 is \"%2\" here and \"%3\" in line %4")
                  .arg(name, value, known.value)
@@ -93,6 +99,8 @@ void Script::takeLine(const QString& text, int number, const DEV::DeviceInfo& de
 
 Script Script::parse(const QStringList& lines, const DEV::DeviceInfo& device, QStringList* errors) {
     Script script;
+    script.m_settings.reserve(lines.size());
+    script.m_names.reserve(lines.size());
     int number = 0;
     for (const QString& line : lines) {
         script.takeLine(line, ++number, device, errors);
@@ -101,12 +109,15 @@ Script Script::parse(const QStringList& lines, const DEV::DeviceInfo& device, QS
 }
 
 QStringList Script::enabledLanes() const {
-    static const QRegularExpression form(QStringLiteral("\\A(q[0-9]_ln[0-9])_enable\\z"));
+    const QLatin1String suffix("_enable");
     QStringList lanes;
     for (const QString& name : m_names) {
-        const QRegularExpressionMatch match = form.match(name);
-        if (match.hasMatch() && value(name) == QLatin1String("true")) {
-            lanes.append(match.captured(1));
+        if (!name.endsWith(suffix) || value(name) != QLatin1String("true")) {
+            continue;
+        }
+        const SettingPrefix prefix = settingPrefix(name);
+        if (prefix.scope == Scope::Lane && name.size() == prefix.length - 1 + suffix.size()) {
+            lanes.append(name.left(prefix.length - 1));
         }
     }
     return lanes;

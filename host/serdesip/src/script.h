@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QMap>
+#include <QHash>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace DEV {
 struct DeviceInfo;
@@ -14,6 +15,12 @@ namespace IPSERDESIP {
 struct Setting {
     QString value;
     int line = 0; ///< from 1; 0: the script has no such setting
+};
+
+/// A setting that gives a pin's frequency.
+struct PinFrequency {
+    QString pin;     ///< "Q0_REFCLK1"
+    QString setting; ///< "q0_refclk1_freq"
 };
 
 /// A parsed transceiver script.
@@ -29,6 +36,8 @@ public:
     QString value(const QString& name) const { return m_settings.value(name).value; }
     /// The settings' names in the order of their first lines.
     const QStringList& names() const { return m_names; }
+    /// The frequency settings in the same order.
+    const QVector<PinFrequency>& pins() const { return m_pins; }
     /// The prefixes ("q0_ln0") of the enabled lanes, in the order of their first lines.
     QStringList enabledLanes() const;
 
@@ -36,8 +45,9 @@ private:
     void takeLine(const QString& text, int number, const DEV::DeviceInfo& device,
                   QStringList* errors);
 
-    QMap<QString, Setting> m_settings;
+    QHash<QString, Setting> m_settings;
     QStringList m_names;
+    QVector<PinFrequency> m_pins;
 };
 
 /// "line 4: q0_ln0_tx_rate must be …"

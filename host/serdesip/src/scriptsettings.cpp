@@ -6,6 +6,10 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <algorithm>
+#include <cstring>
+#include <map>
+
 namespace IPSERDESIP {
 
 namespace {
@@ -99,26 +103,61 @@ constexpr SettingRow rows[] = {
 };
 // clang-format on
 
-QString keyOf(Scope scope, const QString& name) {
-    return QString::number(int(scope)) + name;
+QRegularExpression whole(const char* pattern) {
+    return QRegularExpression(QStringLiteral("\\A(?:%1)\\z").arg(QLatin1String(pattern)));
 }
 
-bool matches(const char* pattern, const QString& value) {
-    return QRegularExpression(QStringLiteral("\\A(?:%1)\\z").arg(QLatin1String(pattern)))
-        .match(value)
-        .hasMatch();
+bool isDigit(QChar c) {
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+bool isHexDigit(QChar c) {
+    return isDigit(c) || (c >= QLatin1Char('A') && c <= QLatin1Char('F')) ||
+           (c >= QLatin1Char('a') && c <= QLatin1Char('f'));
+}
+
+bool isBit(QChar c) {
+    return c == QLatin1Char('0') || c == QLatin1Char('1');
+}
+
+/// Whether the value is one to `most` characters of a kind.
+bool isRun(bool (*kind)(QChar), int most, const QString& value) {
+    return !value.isEmpty() && value.size() <= most &&
+           std::all_of(value.begin(), value.end(), kind);
+}
+
+/// The digit behind `letters` at `at`, where a "_" follows it; else -1.
+int numberBehind(QLatin1String letters, const QString& name, int at) {
+    const int digit = at + letters.size();
+    const bool is = name.size() > digit + 1 && name.midRef(at, letters.size()) == letters &&
+                    isDigit(name.at(digit)) && name.at(digit + 1) == QLatin1Char('_');
+    return is ? name.at(digit).digitValue() : -1;
+}
+
+/// Whether the value is one of the words, which stand apart by '|'.
+bool isWord(const char* words, const QString& value) {
+    while (*words != '\0') {
+        const char* const end = std::strchr(words, '|');
+        const int length = static_cast<int>(end != nullptr ? end - words : std::strlen(words));
+        if (value == QLatin1String(words, length)) {
+            return true;
+        }
+        words += length + (end != nullptr ? 1 : 0);
+    }
+    return false;
 }
 
 QString wordProblem(const SettingRow& row, const QString& value) {
+    if (isWord(row.words, value)) {
+        return {};
+    }
     const QStringList words = QString::fromLatin1(row.words).split(QLatin1Char('|'));
-    return words.contains(value)
-               ? QString()
-               : QStringLiteral("must be %1").arg(words.join(QStringLiteral(", ")));
+    return QStringLiteral("must be %1").arg(words.join(QStringLiteral(", ")));
 }
 
 QString integerProblem(const SettingRow& row, const QString& value) {
     constexpr int maxDigits = 9;
-    const bool digits = matches("[0-9]+", value) && value.size() <= maxDigits;
+    const bool digits = isRun(isDigit, maxDigits, value);
     return digits && value.toInt() >= row.min && value.toInt() <= row.max
                ? QString()
                : QStringLiteral("must be a whole number from %1 to %2").arg(row.min).arg(row.max);
@@ -126,23 +165,40 @@ QString integerProblem(const SettingRow& row, const QString& value) {
 
 } // namespace
 
-const SettingRow* findSetting(const QString& name) {
-    static const QHash<QString, const SettingRow*> byName = [] {
-        QHash<QString, const SettingRow*> map;
+SettingPrefix settingPrefix(const QString& name) {
+    SettingPrefix prefix;
+    prefix.quad = numberBehind(QLatin1String("q"), name, 0);
+    if (prefix.quad < 0) {
+        return prefix;
+    }
+    prefix.scope = Scope::Quad;
+    prefix.length = 3;
+    prefix.lane = numberBehind(QLatin1String("ln"), name, prefix.length);
+    if (prefix.lane >= 0) {
+        prefix.scope = Scope::Lane;
+        prefix.length += 4;
+    }
+    return prefix;
+}
+
+const SettingRow* findSetting(const QString& name, const SettingPrefix& prefix) {
+    using Rows = QHash<QString, const SettingRow*>;
+    static const std::map<Scope, Rows> byScope = [] {
+        std::map<Scope, Rows> map;
         for (const SettingRow& row : rows) {
-            map.insert(keyOf(row.scope, QString::fromLatin1(row.name)), &row);
+            map[row.scope].insert(QString::fromLatin1(row.name), &row);
         }
         return map;
     }();
-    static const QRegularExpression prefix(QStringLiteral("\\Aq[0-9]_(ln[0-9]_)?"));
-    const QRegularExpressionMatch match = prefix.match(name);
-    const Scope scope = !match.hasMatch()             ? Scope::Device
-                        : match.captured(1).isEmpty() ? Scope::Quad
-                                                      : Scope::Lane;
-    return byName.value(keyOf(scope, name.mid(match.capturedLength())));
+    return byScope.at(prefix.scope).value(name.mid(prefix.length));
 }
 
 QString valueProblem(const SettingRow& row, const QString& value) {
+    // Compiled once: a script has hundreds of values.
+    static const QRegularExpression millivolts = whole("[0-9]{1,4}mV");
+    static const QRegularExpression ratio = whole("na|[1-9][0-9]?x");
+    static const QRegularExpression lane = whole("q[0-9]_ln[0-9]");
+    static const QRegularExpression character = whole("k(28\\.[0-7]|23\\.7|27\\.7|29\\.7|30\\.7)");
     const auto check = [](bool good, const char* wanted) {
         return good ? QString() : QStringLiteral("must be %1").arg(QLatin1String(wanted));
     };
@@ -160,18 +216,17 @@ QString valueProblem(const SettingRow& row, const QString& value) {
     case Form::Frequency:
         return check(parseMilli(value, mhzDecimals).has_value(), "a decimal number of MHz");
     case Form::Hex:
-        return check(matches("[0-9A-Fa-f]{1,2}", value), "one or two hexadecimal digits");
+        return check(isRun(isHexDigit, 2, value), "one or two hexadecimal digits");
     case Form::Bits:
-        return check(matches("[01]{1,10}", value), "one to ten digits 0 or 1");
+        return check(isRun(isBit, 10, value), "one to ten digits 0 or 1");
     case Form::Millivolts:
-        return check(matches("[0-9]{1,4}mV", value), "a whole number and \"mV\"");
+        return check(millivolts.match(value).hasMatch(), "a whole number and \"mV\"");
     case Form::Ratio:
-        return check(matches("na|[1-9][0-9]?x", value), "\"na\" or a whole number and \"x\"");
+        return check(ratio.match(value).hasMatch(), "\"na\" or a whole number and \"x\"");
     case Form::Lane:
-        return check(matches("q[0-9]_ln[0-9]", value), "a lane, as q0_ln0");
+        return check(lane.match(value).hasMatch(), "a lane, as q0_ln0");
     case Form::Character:
-        return check(matches("k(28\\.[0-7]|23\\.7|27\\.7|29\\.7|30\\.7)", value),
-                     "a K character, as k28.5");
+        return check(character.match(value).hasMatch(), "a K character, as k28.5");
     }
     return {};
 }

@@ -31,8 +31,18 @@ struct SettingRow {
     int max = 0;
 };
 
-/// The row of a setting by its whole name ("q0_ln1_tx_rate"); null for an unknown one.
-const SettingRow* findSetting(const QString& name);
+/// Where a setting belongs, by what its name begins with.
+struct SettingPrefix {
+    Scope scope = Scope::Device;
+    int quad = -1;  ///< -1: the whole device
+    int lane = -1;  ///< in its quad; -1: the whole quad or device
+    int length = 0; ///< "q0_ln1_" is 7 long
+};
+SettingPrefix settingPrefix(const QString& name);
+
+/// The row of a setting by its whole name ("q0_ln1_tx_rate") and its prefix; null for an unknown
+/// one.
+const SettingRow* findSetting(const QString& name, const SettingPrefix& prefix);
 /// What is wrong with a value; empty: nothing.
 QString valueProblem(const SettingRow& row, const QString& value);
 

@@ -89,12 +89,12 @@ Milli ScriptSolver::rateOf(const QString& lane, const QString& direction) const 
 }
 
 void ScriptSolver::checkFrequencies() {
-    for (const QString& name : m_script.names()) {
-        const DEV::Range& range = m_device.referenceMHz;
+    const DEV::Range& range = m_device.referenceMHz;
+    for (const PinFrequency& given : m_script.pins()) {
+        const QString& name = given.setting;
         const Setting setting = m_script.setting(name);
         const Milli frequency = parseMilli(setting.value, mhzDecimals).value_or(0);
-        if (!pinOfSetting(name).isEmpty() &&
-            (frequency < range.min * million || frequency > range.max * million)) {
+        if (frequency < range.min * million || frequency > range.max * million) {
             m_errors.append(
                 lineError(setting.line, QStringLiteral("%1 \"%2\": must be %3 to %4 MHz")
                                             .arg(name, setting.value)
@@ -226,8 +226,8 @@ QVector<ScriptSolver::Group> ScriptSolver::transmitGroups() const {
 
 QVector<Reference> ScriptSolver::candidates(int quad, const QString& kind) const {
     QVector<Reference> found;
-    for (const QString& name : m_script.names()) {
-        const QString pin = pinOfSetting(name);
+    for (const PinFrequency& given : m_script.pins()) {
+        const QString& pin = given.pin;
         const bool muxed = std::any_of(m_device.multiplexers.begin(), m_device.multiplexers.end(),
                                        [&](const DEV::Multiplexer& mux) {
                                            return mux.quad == quad && mux.sources.contains(pin) &&
@@ -239,7 +239,7 @@ QVector<Reference> ScriptSolver::candidates(int quad, const QString& kind) const
                                                    input.feeds.contains(kind);
                                         });
         if (muxed || direct) {
-            found.append({pin, parseMilli(m_script.value(name), mhzDecimals).value_or(0)});
+            found.append({pin, parseMilli(m_script.value(given.setting), mhzDecimals).value_or(0)});
         }
     }
     return found;
@@ -354,7 +354,8 @@ void ScriptSolver::explain(const Group& group, const QString& direction,
 
 bool ScriptSolver::solve() {
     checkFrequencies();
-    for (const QString& lane : m_script.enabledLanes()) {
+    const QStringList lanes = m_script.enabledLanes();
+    for (const QString& lane : lanes) {
         checkLane(lane);
     }
     if (!m_errors.isEmpty()) {
@@ -364,7 +365,7 @@ bool ScriptSolver::solve() {
     for (const Group& group : transmitGroups()) {
         solved = solveGroup(group, QStringLiteral("tx"), transmitCandidates(group)) && solved;
     }
-    for (const QString& lane : m_script.enabledLanes()) {
+    for (const QString& lane : lanes) {
         if (receives(lane)) {
             const Group group{quadOf(lane), &m_device.cdr, {lane}};
             solved = solveGroup(group, QStringLiteral("rx"), receiveCandidates(lane)) && solved;
