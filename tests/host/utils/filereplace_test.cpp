@@ -252,6 +252,37 @@ private Q_SLOTS:
         QCOMPARE(everything(m_dir->path()), QStringList({QStringLiteral("f")}));
     }
 
+    void syncsLater() {
+        put(path("f"), "old");
+        {
+            const Utils::SyncLater later;
+            const Utils::SyncLater inner;
+            QVERIFY(Utils::replaceFile(path("f"), "new").written);
+            QCOMPARE(contentOf(path("f")), QByteArray("new"));
+            QVERIFY(!Utils::replaceFile(path("none/f"), "x").ok);
+        }
+        QVERIFY(Utils::syncFiles(m_dir->path()).ok);
+        QCOMPARE(everything(m_dir->path()), QStringList({QStringLiteral("f")}));
+    }
+
+    void syncRefuses_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("nothing") << "none"
+                                 << "cannot sync the folder: No such file or directory";
+        QTest::newRow("a file") << "f"
+                                << "cannot sync the folder: Not a directory";
+    }
+    void syncRefuses() {
+        QFETCH(QString, name);
+        QFETCH(QString, reason);
+        put(path("f"), "old");
+        const Utils::FileResult result = Utils::syncFiles(m_dir->filePath(name));
+        QVERIFY(!result.ok);
+        QCOMPARE(result.path, m_dir->filePath(name));
+        QCOMPARE(result.reason, reason);
+    }
+
     void reads() {
         put(path("f"), "abc");
         QByteArray bytes;
