@@ -36,7 +36,7 @@ Status addRtl(Files& files, const QString& place, const QString& folder) {
     const QFileInfoList entries =
         QDir(folder).entryInfoList({QStringLiteral("*.v"), QStringLiteral("*.vh")}, QDir::Files);
     for (const QFileInfo& entry : entries) {
-        const Status added = addFile(files, place + entry.fileName(), entry.filePath());
+        Status added = addFile(files, place + entry.fileName(), entry.filePath());
         if (!added.ok()) {
             return added;
         }
@@ -68,7 +68,7 @@ Status addTemplate(Files& files, const QString& folder,
     while (it.hasNext()) {
         const QString path = it.next();
         const QString place = QDir(folder).relativeFilePath(path);
-        const Status added = addFile(files, place, path);
+        Status added = addFile(files, place, path);
         if (!added.ok()) {
             return added;
         }
@@ -98,7 +98,7 @@ Status addGenerated(Files& files, const ExampleRequest& request) {
         return result.status;
     }
     for (const QString& path : result.files) {
-        const Status added =
+        Status added =
             addFile(files, QStringLiteral("generated/") + QFileInfo(path).fileName(), path);
         if (!added.ok()) {
             return added;

@@ -160,7 +160,7 @@ NetlistFlow::Stop NetlistFlow::check(const Request& request) {
     if (m_run.m_cancelled) {
         return {Failure::Cancelled, QStringLiteral("the netlist generation was cancelled")};
     }
-    const Stop options = checkOptions();
+    Stop options = checkOptions();
     if (!options.none()) {
         return options;
     }
@@ -198,7 +198,7 @@ NetlistFlow::Stop NetlistFlow::collect(const Request& request) {
     const QString primitives = m_run.primitives.isEmpty() ? hostPrimitives() : m_run.primitives;
     const QString rtl = request.info.value(QStringLiteral("ipcore.dir.data")).toString();
     for (const QString& folder : {primitives, rtl, m_instanceFolder}) {
-        const Stop stop = collectFolder(folder);
+        Stop stop = collectFolder(folder);
         if (!stop.none()) {
             return stop;
         }

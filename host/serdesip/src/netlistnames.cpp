@@ -39,7 +39,7 @@ QString described(QChar c) {
 } // namespace
 
 QString moduleNameFlaw(const QString& name) {
-    const QString flaw = lengthFlaw(name);
+    QString flaw = lengthFlaw(name);
     if (!flaw.isEmpty()) {
         return flaw;
     }
@@ -55,7 +55,7 @@ QString moduleNameFlaw(const QString& name) {
 }
 
 QString fileNameFlaw(const QString& name) {
-    const QString flaw = lengthFlaw(name);
+    QString flaw = lengthFlaw(name);
     if (!flaw.isEmpty()) {
         return flaw;
     }
