@@ -19,6 +19,8 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
              makeRemoveCommand,
              makeEmitCommand,
              makeGuiCommand,
+             makeDiffCommand,
+             makeSummaryCommand,
          }) {
         commands.push_back(make());
     }

@@ -25,5 +25,7 @@ std::unique_ptr<Command> makeFigureCommand();
 std::unique_ptr<Command> makeRemoveCommand();
 std::unique_ptr<Command> makeEmitCommand();
 std::unique_ptr<Command> makeGuiCommand();
+std::unique_ptr<Command> makeDiffCommand();
+std::unique_ptr<Command> makeSummaryCommand();
 
 } // namespace Ipgen

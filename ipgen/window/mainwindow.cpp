@@ -1,12 +1,14 @@
 #include "ipgen/window/mainwindow.h"
 
 #include "ipgen/window/cataloguepane.h"
+#include "ipgen/window/filespane.h"
 #include "ipgen/window/instancepane.h"
 #include "ipgen/window/logpane.h"
 #include "ipgen/window/mappane.h"
 #include "ipgen/window/named.h"
 #include "ipgen/window/newprojectdialog.h"
 #include "ipgen/window/noticebar.h"
+#include "ipgen/window/summarypane.h"
 #include "ipgen/window/welcomepage.h"
 
 #include <core/viewmanager.h>
@@ -81,6 +83,10 @@ void MainWindow::makePages() {
     m_views->addTab(m_map, tr("Quad map"));
     auto* resources = new ResourceTable(&m_bench, this);
     m_views->addTab(resources, tr("Resources"));
+    m_filesPane = new FilesPane(&m_bench, this);
+    m_views->addTab(m_filesPane, tr("Files"));
+    m_summary = new SummaryPane(&m_bench, this);
+    m_views->addTab(m_summary, tr("Summary"));
     m_log = new LogPane(this);
     m_views->addTab(m_log, tr("Log"));
 
@@ -124,6 +130,7 @@ void MainWindow::makePages() {
     });
     connect(m_map, &MapPane::openRequested, this, &MainWindow::openInstance);
     connect(resources, &ResourceTable::openRequested, this, &MainWindow::openInstance);
+    connect(m_filesPane, &FilesPane::folderRequested, this, &MainWindow::openOutputFolder);
     connect(m_catalogue, &CataloguePane::createRequested, this, &MainWindow::createInstance);
     connect(m_instances, &InstancePane::openRequested, this, &MainWindow::openInstance);
     connect(m_instances, &InstancePane::selectionChanged, this, &MainWindow::onSelection);
@@ -198,6 +205,8 @@ void MainWindow::showRecent() {
 
 void MainWindow::onSelection() {
     const bool project = m_bench.hasProject();
+    m_filesPane->setInstance(project ? m_instances->current() : QString());
+    m_summary->setInstances(project ? m_instances->selected() : QStringList());
     m_map->setHighlighted(project ? m_instances->current() : QString());
     const int selected = project ? m_instances->selected().size() : 0;
     const auto enable = [this](std::initializer_list<const char*> names, bool on) {

@@ -16,10 +16,12 @@ class QTabWidget;
 namespace Window {
 
 class CataloguePane;
+class FilesPane;
 class InstancePane;
 class LogPane;
 class MapPane;
 class NoticeBar;
+class SummaryPane;
 class WelcomePage;
 
 /// The window: catalogue, instances, and what there is to see of them. Each action is a row of the
@@ -100,6 +102,8 @@ private:
     InstancePane* m_instances = nullptr;
     QTabWidget* m_views = nullptr;
     MapPane* m_map = nullptr;
+    FilesPane* m_filesPane = nullptr;
+    SummaryPane* m_summary = nullptr;
     LogPane* m_log = nullptr;
 };
 

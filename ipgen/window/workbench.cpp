@@ -2,6 +2,7 @@
 
 #include "ipgen/core/errorcollector.h"
 #include "ipgen/core/installation.h"
+#include "ipgen/window/filehistory.h"
 #include "ipgen/window/undo.h"
 
 #include <serdesip/serdes.h>
@@ -414,7 +415,11 @@ Ipgen::GenerationResult Workbench::generateInstance(const QString& name, bool ne
     request.config = instance.config;
     request.instance = name;
     request.netlist = netlist;
+    const InstanceRow* known = row(name);
+    const FileHistory::Snapshot before = FileHistory::take(
+        known != nullptr ? generatedFiles(*m_project, known->file) : QStringList());
     result = Ipgen::generate(request);
+    FileHistory::keepChanged(before);
     for (InstanceRow& one : m_rows) {
         if (one.name == name && one.state != State::CheckFailed) {
             one.state = State::Unknown;

@@ -1,0 +1,86 @@
+# bash completion for ipgen
+_ipgen()
+{
+    local cur prev words cword
+    _init_completion -n : || return
+    local command= i
+    for ((i = 1; i < cword; i++)); do
+        case ${words[i]} in
+            --plugin-dir) ((i++)) ;;
+            -*) ;;
+            *) command=${words[i]}; break ;;
+        esac
+    done
+    case $prev in
+        --plugin-dir | --out)
+            _filedir -d
+            return
+            ;;
+        --script | --report | --record | --batch | --config | --svg | --png)
+            _filedir
+            return
+            ;;
+        --device)
+            COMPREPLY=($(compgen -W "$(ipgen devices 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur"))
+            return
+            ;;
+        --ip)
+            COMPREPLY=($(compgen -W "$(ipgen catalog 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur"))
+            return
+            ;;
+        --set | --jobs)
+            return
+            ;;
+    esac
+    local options
+    case $command in
+        "") options="--help --version --plugin-dir" ;;
+        catalog) options="--help --plugin-dir --json" ;;
+        devices) options="--help --plugin-dir --json" ;;
+        new) options="--help --plugin-dir --device" ;;
+        list) options="--help --plugin-dir --json" ;;
+        create) options="--help --plugin-dir --ip --set --script --report --show --record" ;;
+        open) options="--help --plugin-dir --set --script --report --show --record" ;;
+        check) options="--help --plugin-dir --json" ;;
+        generate) options="--help --plugin-dir --netlist --quiet --json" ;;
+        example) options="--help --plugin-dir --out --json" ;;
+        resources) options="--help --plugin-dir --json" ;;
+        figure) options="--help --plugin-dir --json --svg --png" ;;
+        remove) options="--help --plugin-dir" ;;
+        emit) options="--help --plugin-dir --batch --config --device --out --report --jobs --ip --json" ;;
+        gui) options="--help --plugin-dir" ;;
+        diff) options="--help --plugin-dir --json" ;;
+        summary) options="--help --plugin-dir --json --markdown" ;;
+        *) return ;;
+    esac
+    if [[ $cur == -* ]]; then
+        COMPREPLY=($(compgen -W "$options" -- "$cur"))
+        return
+    fi
+    case $command in
+        "")
+            COMPREPLY=($(compgen -W "catalog devices new list create open check generate example resources figure remove emit gui diff summary" -- "$cur"))
+            return
+            ;;
+        catalog | devices | emit)
+            return
+            ;;
+        diff)
+            _filedir
+            return
+            ;;
+    esac
+    # The project first, then its instances.
+    local project= word
+    for word in "${words[@]:i+1:cword-i-1}"; do
+        if [[ $word != -* && -f $word/project.json ]]; then
+            project=$word
+        fi
+    done
+    if [[ -z $project ]]; then
+        _filedir -d
+    elif [[ $command != new && $command != gui ]]; then
+        COMPREPLY=($(compgen -W "$(ipgen list "$project" 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur"))
+    fi
+} &&
+    complete -F _ipgen ipgen
