@@ -7,6 +7,9 @@
 #include <serdesip/protocolgendlg.h>
 #include <serdesip/serdes.h>
 
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
 #include <QtTest>
 
 using namespace DialogTest;
@@ -123,6 +126,8 @@ private Q_SLOTS:
     void randomUser();
     void rulesRunAgain_data() { randomUser_data(); }
     void rulesRunAgain();
+    void scriptsReplay_data();
+    void scriptsReplay();
 
 private:
     void walk(bool loud, int steps);
@@ -222,6 +227,55 @@ void WalkTest::randomUser() {
 
 void WalkTest::rulesRunAgain() {
     walk(true, setting("WALK_STEPS", 240) / 2);
+}
+
+void WalkTest::scriptsReplay_data() {
+    QTest::addColumn<QString>("device");
+    for (const char* device : {"RZ7X-60B", "RZ7X-15A", "RZ7X-138"}) {
+        QTest::newRow(device) << device;
+    }
+}
+
+/// What a walk leaves behind plays back to the same configuration, in the program itself.
+void WalkTest::scriptsReplay() {
+    QFETCH(QString, device);
+    int replayed = 0;
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        Bench bench(device);
+        QJsonArray script;
+        const ConfigMap config = bench.create([&](Dialog& dialog) {
+            Walk walk(dialog, seed);
+            for (int i = 0; i < actionsPerWalk; ++i) {
+                walk.step();
+            }
+            script = walk.script();
+            dialog.pressOk();
+        });
+        if (config.isEmpty()) {
+            continue;
+        }
+        const QString path =
+            saveScript(QString("replay-%1-%2").arg(device).arg(seed), script, true);
+        const QString project = bench.folder() + "/replay";
+        QProcess program;
+        program.start(BUILD_DIR "/bin/ipgen", {"new", project, "--device", device});
+        QVERIFY(program.waitForFinished() && program.exitCode() == 0);
+        program.start(BUILD_DIR "/bin/ipgen",
+                      {"create", project, "link0", "--script", path, "--report", "-"});
+        QVERIFY(program.waitForFinished());
+        QVERIFY2(program.exitCode() == 0, program.readAllStandardError().constData());
+        const QJsonObject report =
+            QJsonDocument::fromJson(program.readAllStandardOutput()).object();
+        QCOMPARE(report["result"].toString(), QString("accepted"));
+        const QVariantMap played = report["config"].toObject().toVariantMap();
+        QCOMPARE(played.keys(), config.keys());
+        for (auto it = config.begin(); it != config.end(); ++it) {
+            QVERIFY2(played.value(it.key()).toStringList() == it->toStringList(),
+                     qPrintable(QString("seed %1: %2").arg(seed).arg(it.key())));
+        }
+        ++replayed;
+    }
+    QVERIFY2(replayed >= 2, qPrintable(QString("%1 replayed").arg(replayed)));
 }
 
 QTEST_MAIN(WalkTest)
