@@ -237,7 +237,8 @@ void SlotsTest::afterManyChanges() {
                 dialog.check("q0_l1", round % 2 == 0);
                 dialog.check("q0_l0", false);
                 if (listed) {
-                    for (const char* operation : {"RX Only", "TX Only", "RX Only", "TX and RX"}) {
+                    for (const char* operation :
+                         {"RX Only", "TX and RX", "RX Only", "TX Only", "TX and RX"}) {
                         QVERIFY(dialog.choose("comboBoxOperationMode", operation));
                         dialog.check("q0_l2", round % 2 == 1);
                     }
