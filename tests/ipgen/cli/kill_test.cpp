@@ -63,6 +63,8 @@ private Q_SLOTS:
         const qint64 writing = qMax<qint64>(clock.nsecsElapsed() - before, 1000000);
         QCOMPARE(m_process.exitCode(), 0);
         QCOMPARE(newFiles(0), instances);
+        QVERIFY(contentOf(project() + "/project.json") != m_project);
+        QVERIFY(projectIsWhole(0));
 
         constexpr int runs = 60;
         int midWay = 0;
@@ -95,6 +97,8 @@ private Q_SLOTS:
         QVERIFY(m_process.waitForFinished(60000));
         QCOMPARE(m_process.exitCode(), 0);
         QCOMPARE(newFiles(0), instances);
+        QVERIFY(contentOf(project() + "/project.json") != m_project);
+        QVERIFY(projectIsWhole(0));
         QCOMPARE(temporaryFiles(), 0);
         QCOMPARE(filesBelow(m_dir.path()).size(), 2 * instances + 1);
     }
