@@ -113,7 +113,7 @@ QString Walk::step() {
 QString saveScript(const QString& name, QJsonArray steps, bool accept) {
     steps.append(QJsonObject{{accept ? "accept" : "cancel", true}});
     QDir().mkpath(QStringLiteral(BUILD_DIR "/tests/walks"));
-    const QString path = QStringLiteral(BUILD_DIR "/tests/walks/%1.json").arg(name);
+    QString path = QStringLiteral(BUILD_DIR "/tests/walks/%1.json").arg(name);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(steps).toJson()) < 0) {
         qWarning("%s cannot be written", qPrintable(path));

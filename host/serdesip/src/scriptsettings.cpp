@@ -138,7 +138,8 @@ int numberBehind(QLatin1String letters, const QString& name, int at) {
 bool isWord(const char* words, const QString& value) {
     while (*words != '\0') {
         const char* const end = std::strchr(words, '|');
-        const int length = static_cast<int>(end != nullptr ? end - words : std::strlen(words));
+        const int length =
+            end != nullptr ? static_cast<int>(end - words) : static_cast<int>(std::strlen(words));
         if (value == QLatin1String(words, length)) {
             return true;
         }
