@@ -23,6 +23,7 @@ struct Ended {
 
 Ended runMeasured(const QStringList& arguments) {
     std::vector<QByteArray> texts = {QFile::encodeName(ipgenProgram())};
+    texts.reserve(static_cast<std::size_t>(arguments.size()) + 1);
     for (const QString& argument : arguments) {
         texts.push_back(QFile::encodeName(argument));
     }
