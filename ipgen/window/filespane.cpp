@@ -121,6 +121,10 @@ void FilesPane::refresh() {
         auto* item = new QListWidgetItem(QFileInfo(path).fileName(), m_files);
         item->setData(Qt::UserRole, path);
         item->setToolTip(path);
+        // The Verilog is what one looks for first.
+        if (before.isEmpty() && chosen == 0 && item->text().endsWith(QLatin1String(".vh"))) {
+            chosen = m_files->count() - 1;
+        }
         if (item->text() == before) {
             chosen = m_files->count() - 1;
         }

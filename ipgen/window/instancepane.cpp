@@ -47,7 +47,7 @@ InstancePane::InstancePane(Workbench* bench, QWidget* parent)
     m_table->horizontalHeader()->setHighlightSections(false);
     const int letter = fontMetrics().averageCharWidth();
     int column = 0;
-    for (const int letters : {16, 18, 18, 30, 14, 24, 12}) {
+    for (const int letters : {16, 18, 18, 26, 16, 20, 12}) {
         m_table->setColumnWidth(column++, letter * letters);
     }
     m_empty->setText(tr("This project has no instances yet.\nChoose an IP in the catalogue and "

@@ -43,6 +43,7 @@ MainWindow::MainWindow(QWidget* parent)
     makePages();
     makeActions();
     makeMenus();
+    drawIcons();
     statusBar()->setSizeGripEnabled(true);
     connect(&m_bench, &Workbench::hostChanged, this, &MainWindow::onHost);
     connect(&m_bench, &Workbench::projectChanged, this, &MainWindow::onProject);
@@ -248,6 +249,13 @@ void MainWindow::done(const QStringList& command, const QString& text) {
     if (!text.isEmpty()) {
         m_notice->show(NoticeBar::Kind::Information, text);
     }
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange && !m_actions.isEmpty()) {
+        drawIcons();
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -67,10 +67,12 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void makeActions();
     void makeMenus();
+    void drawIcons();
     void makePages();
     void onHost();
     void onProject();

@@ -65,10 +65,10 @@ void MapView::setHighlighted(const QString& owner) {
 void MapView::arrange() {
     const QFontMetricsF metrics(font());
     const qreal unit = metrics.height();
-    const qreal cellWidth = metrics.averageCharWidth() * 20;
+    const qreal cellWidth = metrics.averageCharWidth() * 23;
     const qreal cellHeight = unit * 1.9;
     const qreal gap = unit * 0.6;
-    const qreal between = unit * 2.2; // columns: room for the links
+    const qreal between = unit * 2.0; // columns: room for the links
     const qreal title = unit * 1.6;
     const auto columnX = [&](int column) { return gap + column * (cellWidth + between); };
     m_places.fill(QRectF(), m_cells.size());

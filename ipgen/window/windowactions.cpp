@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QStyle>
 #include <QTabWidget>
 #include <QToolBar>
@@ -80,9 +81,6 @@ void MainWindow::makeActions() {
     for (const ActionRow& row : rows) {
         auto* action = new QAction(label(row.text), this);
         dress(action, row.name, label(row.tip), QKeySequence(QLatin1String(row.shortcut)));
-        if (row.icon != noIcon) {
-            action->setIcon(style()->standardIcon(static_cast<QStyle::StandardPixmap>(row.icon)));
-        }
         connect(action, &QAction::triggered, this, row.slot);
         m_actions.insert(QLatin1String(row.name), action);
     }
@@ -97,6 +95,26 @@ void MainWindow::makeActions() {
     dress(quit, "quit", tr("Close the window"), QKeySequence(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, this, &QWidget::close);
     m_actions.insert(QStringLiteral("quit"), quit);
+}
+
+void MainWindow::drawIcons() {
+    const int size = style()->pixelMetric(QStyle::PM_ToolBarIconSize);
+    for (const ActionRow& row : rows) {
+        if (row.icon == noIcon) {
+            continue;
+        }
+        QIcon icon = style()->standardIcon(static_cast<QStyle::StandardPixmap>(row.icon));
+        if (row.icon == QStyle::SP_MediaPlay || row.icon == QStyle::SP_MediaSkipForward) {
+            // These come in black whatever the theme is.
+            QPixmap pixmap = icon.pixmap(size, size);
+            QPainter painter(&pixmap);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(pixmap.rect(), palette().color(QPalette::ButtonText));
+            painter.end();
+            icon = QIcon(pixmap);
+        }
+        m_actions.value(QLatin1String(row.name))->setIcon(icon);
+    }
 }
 
 void MainWindow::makeMenus() {
