@@ -114,9 +114,10 @@ QList<LaneClocking> clocksOf(const QByteArray& text, const DEV::DeviceInfo* devi
     return clocks;
 }
 
-QString text(const char* source) {
-    return QCoreApplication::translate("Ipgen::Summary", source);
-}
+/// The context of this file's texts.
+struct SummaryTexts {
+    Q_DECLARE_TR_FUNCTIONS(SummaryTexts)
+};
 
 QString shortNumber(double value) {
     constexpr int digits = 9;
@@ -165,7 +166,7 @@ Summary summarise(Trial& trial, const CatalogueEntry& entry, const QString& name
     } else {
         summary.problems = messages + model->details();
         if (summary.problems.isEmpty()) {
-            summary.problems.append(text("no divider setting gives these rates"));
+            summary.problems.append(SummaryTexts::tr("no divider setting gives these rates"));
         }
     }
     model->clearDetails();
@@ -204,10 +205,12 @@ QVariantMap summaryMap(const Summary& summary) {
 
 QList<QStringList> clockTable(const Summary& summary) {
     QList<QStringList> rows;
-    rows.append({text("lane"), text("loop"), text("reference"), QStringLiteral("m"),
-                 QStringLiteral("n"), QStringLiteral("d"), text("oscillator MHz"), text("margin"),
-                 text("rate Gbps"), text("error ppm"), text("rate margin"), text("word clock MHz"),
-                 text("user clock MHz")});
+    rows.append({SummaryTexts::tr("lane"), SummaryTexts::tr("loop"), SummaryTexts::tr("reference"),
+                 QStringLiteral("m"), QStringLiteral("n"), QStringLiteral("d"),
+                 SummaryTexts::tr("oscillator MHz"), SummaryTexts::tr("margin"),
+                 SummaryTexts::tr("rate Gbps"), SummaryTexts::tr("error ppm"),
+                 SummaryTexts::tr("rate margin"), SummaryTexts::tr("word clock MHz"),
+                 SummaryTexts::tr("user clock MHz")});
     for (const LaneClocking& clock : summary.clocks) {
         rows.append({clock.lane + QLatin1Char(' ') + clock.direction, clock.loop,
                      QStringLiteral("%1 %2 MHz").arg(clock.reference, clock.referenceMHz),
@@ -226,15 +229,17 @@ QString summaryMarkdown(const Summary& summary) {
             QStringLiteral("- %1: %2").arg(name, value.isEmpty() ? QStringLiteral("-") : value));
     };
     const QString comma = QStringLiteral(", ");
-    item(text("IP"), summary.ip);
-    item(text("device"), summary.device);
-    item(text("lanes"), summary.lanes.join(comma));
-    item(text("PLLs"), summary.plls.join(comma));
-    item(text("references"), summary.references.join(comma));
-    item(text("line rate, transmit"), shortNumber(summary.txRate) + QStringLiteral(" Gbps"));
-    item(text("line rate, receive"), shortNumber(summary.rxRate) + QStringLiteral(" Gbps"));
+    item(SummaryTexts::tr("IP"), summary.ip);
+    item(SummaryTexts::tr("device"), summary.device);
+    item(SummaryTexts::tr("lanes"), summary.lanes.join(comma));
+    item(SummaryTexts::tr("PLLs"), summary.plls.join(comma));
+    item(SummaryTexts::tr("references"), summary.references.join(comma));
+    item(SummaryTexts::tr("line rate, transmit"),
+         shortNumber(summary.txRate) + QStringLiteral(" Gbps"));
+    item(SummaryTexts::tr("line rate, receive"),
+         shortNumber(summary.rxRate) + QStringLiteral(" Gbps"));
     for (const QString& problem : summary.problems) {
-        item(text("problem"), problem);
+        item(SummaryTexts::tr("problem"), problem);
     }
     if (!summary.clocks.isEmpty()) {
         lines.append(QString());

@@ -12,9 +12,10 @@ namespace Window {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Window::State", text);
-}
+/// The context of this file's texts.
+struct StateTexts {
+    Q_DECLARE_TR_FUNCTIONS(StateTexts)
+};
 
 /// Files of other kinds that lie there (logs, what a dialog tried out) say nothing.
 State compareFiles(const Ipgen::TrialResult& trial, const QString& workingDir, QString* detail) {
@@ -25,13 +26,13 @@ State compareFiles(const Ipgen::TrialResult& trial, const QString& workingDir, Q
         const QString path = workingDir + QLatin1Char('/') + it.key();
         const QString name = QFileInfo(path).fileName();
         if (!Utils::readFile(path, &bytes).ok) {
-            *detail = tr("%1 is missing").arg(name);
+            *detail = StateTexts::tr("%1 is missing").arg(name);
             state = State::OutOfDate;
             continue;
         }
         ++there;
         if (bytes != it.value()) {
-            *detail = tr("%1 differs from what would be generated now").arg(name);
+            *detail = StateTexts::tr("%1 differs from what would be generated now").arg(name);
             state = State::OutOfDate;
         }
     }
@@ -118,17 +119,17 @@ void lookAtFiles(const Ipgen::Project& project, const Ipgen::Catalogue& catalogu
 QString stateText(State state) {
     switch (state) {
     case State::Unknown:
-        return tr("looking …");
+        return StateTexts::tr("looking …");
     case State::NoIp:
-        return tr("IP not on offer");
+        return StateTexts::tr("IP not on offer");
     case State::Configured:
-        return tr("configured");
+        return StateTexts::tr("configured");
     case State::Generated:
-        return tr("generated");
+        return StateTexts::tr("generated");
     case State::OutOfDate:
-        return tr("out of date");
+        return StateTexts::tr("out of date");
     case State::CheckFailed:
-        return tr("check failed");
+        return StateTexts::tr("check failed");
     }
     return {};
 }

@@ -12,9 +12,10 @@ namespace {
 using Kind = MapCell::Kind;
 using Messages = QMap<QString, IPSERDESIP::Message>;
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Window::Map", text);
-}
+/// The context of this file's texts.
+struct MapTexts {
+    Q_DECLARE_TR_FUNCTIONS(MapTexts)
+};
 
 QString number(double value) {
     constexpr int digits = 10;
@@ -42,7 +43,7 @@ public:
         for (const QString& pll : message.plls) {
             const QString text =
                 message.realTxRate > 0
-                    ? tr("%1 Gbps from %2 at %3 MHz")
+                    ? MapTexts::tr("%1 Gbps from %2 at %3 MHz")
                           .arg(number(message.realTxRate), message.refClocks.value(0),
                                number(message.refFrequencies.value(0)))
                     : QString();
@@ -50,10 +51,10 @@ public:
         }
         for (int i = 0; i < message.refClocks.size(); ++i) {
             use(message.refClocks.at(i), owner,
-                tr("%1 MHz").arg(number(message.refFrequencies.value(i))));
+                MapTexts::tr("%1 MHz").arg(number(message.refFrequencies.value(i))));
         }
         for (auto it = message.muxes.constBegin(); it != message.muxes.constEnd(); ++it) {
-            use(it.key(), owner, tr("set to %1").arg(it.value()));
+            use(it.key(), owner, MapTexts::tr("set to %1").arg(it.value()));
             const int at = m_index.value(it.key(), -1);
             if (at >= 0) {
                 m_cells[at].setting = it.value();
@@ -100,7 +101,7 @@ private:
         }
         for (int lane = 0; lane < device.lanesPerQuad; ++lane) {
             add(Kind::Lane, QStringLiteral("Q%1_LANE%2").arg(quad).arg(lane), quad, lane);
-            m_cells.last().label = tr("Lane %1").arg(lane);
+            m_cells.last().label = MapTexts::tr("Lane %1").arg(lane);
             for (const DEV::ClockLoop& pll : device.plls) {
                 if (!pll.shared) {
                     add(Kind::LanePll,
@@ -132,9 +133,9 @@ private:
             return;
         }
         if (cell.kind == Kind::Lane || cell.kind == Kind::LanePll) {
-            cell.conflict = tr("only one instance can have it");
+            cell.conflict = MapTexts::tr("only one instance can have it");
         } else if (QStringList(cell.uses).removeDuplicates() < cell.uses.size() - 1) {
-            cell.conflict = tr("used in different ways");
+            cell.conflict = MapTexts::tr("used in different ways");
             cell.setting.clear();
         }
     }
@@ -174,22 +175,22 @@ QMap<QString, OwnerMark> ownerMarks(const Messages& messages) {
 QString kindText(Kind kind) {
     switch (kind) {
     case Kind::Pin:
-        return tr("reference pin");
+        return MapTexts::tr("reference pin");
     case Kind::Multiplexer:
-        return tr("multiplexer");
+        return MapTexts::tr("multiplexer");
     case Kind::SharedPll:
-        return tr("PLL of the quad");
+        return MapTexts::tr("PLL of the quad");
     case Kind::LanePll:
-        return tr("PLL of the lane");
+        return MapTexts::tr("PLL of the lane");
     case Kind::Lane:
-        return tr("lane");
+        return MapTexts::tr("lane");
     }
     return {};
 }
 
 QString ownerText(const MapCell& cell) {
     if (cell.isFree()) {
-        return tr("free");
+        return MapTexts::tr("free");
     }
     QStringList lines;
     for (int i = 0; i < cell.owners.size(); ++i) {
