@@ -52,7 +52,7 @@ InstanceRow rowOf(const Ipgen::Project& project, const Ipgen::Catalogue& catalog
     row.ip = project.instance(name).ip;
     row.ipName = row.ip;
     const Ipgen::CatalogueEntry* entry = nullptr;
-    const Ipgen::Status offered = catalogue.pick(row.ip, &entry);
+    Ipgen::Status offered = catalogue.pick(row.ip, &entry);
     if (!offered.ok()) {
         row.state = State::NoIp;
         row.detail = offered.text();

@@ -139,7 +139,7 @@ void MainWindow::makePages() {
 
 void MainWindow::start(const QStringList& pluginDirs, const QString& project) {
     m_pluginDirs = pluginDirs;
-    const Ipgen::Status loaded = m_bench.loadHost(pluginDirs);
+    Ipgen::Status loaded = m_bench.loadHost(pluginDirs);
     if (!loaded.ok()) {
         tell(loaded);
     } else if (!project.isEmpty()) {

@@ -84,7 +84,7 @@ void SummaryPane::showComparison(const QString& left, const QString& right) {
     const Ipgen::Side a = sideOf(left);
     const Ipgen::Side b = sideOf(right);
     Ipgen::Comparison comparison;
-    const Ipgen::Status status = Ipgen::compareSides(m_bench->catalogue(), a, b, &comparison);
+    Ipgen::Status status = Ipgen::compareSides(m_bench->catalogue(), a, b, &comparison);
     m_text->setPlainText(status.ok() ? tr("%1 (-) and %2 (+)\n\n").arg(left, right) +
                                            Ipgen::comparisonText(comparison, a, b)
                                      : status.text());

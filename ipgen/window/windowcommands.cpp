@@ -34,7 +34,7 @@ void MainWindow::newProject() {
         return;
     }
     const QString folder = dialog.folder();
-    const Status made = m_bench.newProject(folder, dialog.deviceId());
+    Status made = m_bench.newProject(folder, dialog.deviceId());
     if (!made.ok()) {
         tell(made);
         return;
@@ -58,7 +58,7 @@ void MainWindow::openProject() {
 }
 
 void MainWindow::openFolder(const QString& folder) {
-    const Status opened = m_bench.openProject(folder);
+    Status opened = m_bench.openProject(folder);
     if (!opened.ok()) {
         tell(opened);
         return;
@@ -81,14 +81,14 @@ void MainWindow::closeProject() {
 }
 
 void MainWindow::reload() {
-    const Status done = m_bench.reload();
+    Status done = m_bench.reload();
     if (!done.ok()) {
         tell(done);
     }
 }
 
 void MainWindow::save() {
-    const Status saved = m_bench.saveAgain();
+    Status saved = m_bench.saveAgain();
     if (!saved.ok()) {
         tell(saved);
         return;
@@ -125,7 +125,7 @@ QString MainWindow::askName(const QString& title, const QString& label, const QS
             return {};
         }
         name = dialog.textValue();
-        const Status fine = Ipgen::Project::checkInstanceName(name);
+        Status fine = Ipgen::Project::checkInstanceName(name);
         if (fine.ok() && !m_bench.project().hasInstance(name)) {
             return name;
         }
@@ -142,7 +142,7 @@ void MainWindow::createInstance(const QString& ip) {
         return;
     }
     bool accepted = false;
-    const Status created = m_bench.createInstance(name, ip, &accepted);
+    Status created = m_bench.createInstance(name, ip, &accepted);
     if (!created.ok()) {
         tell(created);
     } else if (accepted) {
@@ -162,7 +162,7 @@ void MainWindow::openSelected() {
 
 void MainWindow::openInstance(const QString& name) {
     bool accepted = false;
-    const Status opened = m_bench.openInstance(name, &accepted);
+    Status opened = m_bench.openInstance(name, &accepted);
     if (!opened.ok()) {
         tell(opened);
     } else if (accepted) {
@@ -179,7 +179,7 @@ void MainWindow::duplicate() {
     if (copy.isEmpty()) {
         return;
     }
-    const Status done = m_bench.duplicateInstance(name, copy);
+    Status done = m_bench.duplicateInstance(name, copy);
     if (!done.ok()) {
         tell(done);
         return;
@@ -197,7 +197,7 @@ void MainWindow::rename() {
     if (to.isEmpty()) {
         return;
     }
-    const Status done = m_bench.renameInstance(name, to);
+    Status done = m_bench.renameInstance(name, to);
     if (!done.ok()) {
         tell(done);
     }
@@ -313,7 +313,7 @@ void MainWindow::runTool(const QString& title, const QStringList& arguments,
 
 void MainWindow::remove() {
     const QStringList names = targets();
-    const Status removed = m_bench.removeInstances(names);
+    Status removed = m_bench.removeInstances(names);
     if (!removed.ok()) {
         tell(removed);
         return;

@@ -60,7 +60,7 @@ Workbench::Workbench(QObject* parent)
 Workbench::~Workbench() = default;
 
 Status Workbench::loadHost(const QStringList& pluginDirs) {
-    const Status devices = Ipgen::loadDevices();
+    Status devices = Ipgen::loadDevices();
     m_catalogue = Ipgen::Catalogue::load(pluginDirs);
     m_hostLoaded = true;
     Q_EMIT hostChanged();
@@ -69,24 +69,24 @@ Status Workbench::loadHost(const QStringList& pluginDirs) {
 
 Status Workbench::newProject(const QString& folder, const QString& device) {
     DEV::DeviceArg found;
-    const Status known = Ipgen::findDevice(device, &found);
+    Status known = Ipgen::findDevice(device, &found);
     if (!known.ok()) {
         return known;
     }
     Ipgen::Project project;
-    const Status made = Ipgen::Project::make(folder, found, &project);
+    Status made = Ipgen::Project::make(folder, found, &project);
     return made.ok() ? adopt(project) : made;
 }
 
 Status Workbench::openProject(const QString& folder) {
     Ipgen::Project project;
-    const Status loaded = Ipgen::Project::load(folder, &project);
+    Status loaded = Ipgen::Project::load(folder, &project);
     return loaded.ok() ? adopt(project) : loaded;
 }
 
 Status Workbench::adopt(Ipgen::Project project) {
     DEV::DeviceArg device;
-    const Status known = Ipgen::findDevice(project.deviceName(), &device);
+    Status known = Ipgen::findDevice(project.deviceName(), &device);
     if (!known.ok()) {
         return {Exit::BadInput, project.file(), known.text()};
     }
@@ -96,7 +96,7 @@ Status Workbench::adopt(Ipgen::Project project) {
     takeLock();
     m_watcher.addPath(m_project->file());
     m_watcher.addPath(m_project->folder());
-    const Status entered = enterModel();
+    Status entered = enterModel();
     rebuildRows();
     Q_EMIT projectChanged();
     return entered;
@@ -147,18 +147,18 @@ Status Workbench::reload() {
         return {};
     }
     Ipgen::Project fresh;
-    const Status loaded = Ipgen::Project::load(m_project->folder(), &fresh);
+    Status loaded = Ipgen::Project::load(m_project->folder(), &fresh);
     if (!loaded.ok()) {
         return loaded;
     }
     DEV::DeviceArg device;
-    const Status known = Ipgen::findDevice(fresh.deviceName(), &device);
+    Status known = Ipgen::findDevice(fresh.deviceName(), &device);
     if (!known.ok()) {
         return {Exit::BadInput, fresh.file(), known.text()};
     }
     m_project = fresh;
     m_device = device;
-    const Status entered = enterModel();
+    Status entered = enterModel();
     rebuildRows();
     Q_EMIT instancesChanged();
     return entered;
@@ -176,13 +176,13 @@ void Workbench::onFileChanged() {
         return; // the next save brings both together
     }
     Ipgen::Project fresh;
-    const Status loaded = Ipgen::Project::load(m_project->folder(), &fresh);
+    Status loaded = Ipgen::Project::load(m_project->folder(), &fresh);
     if (!loaded.ok()) {
         Q_EMIT failed(loaded);
         return;
     }
     if (!m_project->sameAs(fresh)) {
-        const Status done = reload();
+        Status done = reload();
         if (!done.ok()) {
             Q_EMIT failed(done);
         }
@@ -191,14 +191,14 @@ void Workbench::onFileChanged() {
 
 Status Workbench::enterModel() {
     QList<Status> skipped;
-    const Status entered = m_project->openInModel(m_catalogue, &skipped);
+    Status entered = m_project->openInModel(m_catalogue, &skipped);
     return entered;
 }
 
 Status Workbench::saveProject() {
-    const Status saved = m_project->save();
+    Status saved = m_project->save();
     // After a failure the change is kept here, to be saved again.
-    const Status entered = enterModel();
+    Status entered = enterModel();
     rebuildRows();
     Q_EMIT instancesChanged();
     return saved.ok() ? entered : saved;
@@ -230,7 +230,7 @@ const InstanceRow* Workbench::row(const QString& name) const {
 
 QString Workbench::freeName(const QString& stem) const {
     for (int i = 0;; ++i) {
-        const QString name = stem + QString::number(i);
+        QString name = stem + QString::number(i);
         if (!m_project || !m_project->hasInstance(name)) {
             return name;
         }
@@ -266,7 +266,7 @@ void Workbench::lookAtSome() {
 
 Status Workbench::createInstance(const QString& name, const QString& ip, bool* accepted) {
     *accepted = false;
-    const Status named = Ipgen::Project::checkInstanceName(name);
+    Status named = Ipgen::Project::checkInstanceName(name);
     if (!named.ok()) {
         return named;
     }
@@ -274,13 +274,13 @@ Status Workbench::createInstance(const QString& name, const QString& ip, bool* a
         return {Exit::Refused, name, tr("there is an instance of this name already")};
     }
     const Ipgen::CatalogueEntry* entry = nullptr;
-    const Status offered = m_catalogue.pick(ip, &entry);
+    Status offered = m_catalogue.pick(ip, &entry);
     if (!offered.ok()) {
         return offered;
     }
     IPSERDESIP::ConfigMap config;
     entry->protocol->setDevice(m_device);
-    const Status ran = runDialog(
+    Status ran = runDialog(
         name, [&] { return entry->protocol->create(name, m_device); }, &config);
     if (!ran.ok() || config.isEmpty()) {
         return ran;
@@ -291,20 +291,20 @@ Status Workbench::createInstance(const QString& name, const QString& ip, bool* a
 
 Status Workbench::openInstance(const QString& name, bool* accepted) {
     *accepted = false;
-    const Status known = m_project->checkKnown(name);
+    Status known = m_project->checkKnown(name);
     if (!known.ok()) {
         return known;
     }
     const Ipgen::ProjectInstance instance = m_project->instance(name);
     const Ipgen::CatalogueEntry* entry = nullptr;
-    const Status offered = m_catalogue.pick(instance.ip, &entry);
+    Status offered = m_catalogue.pick(instance.ip, &entry);
     if (!offered.ok()) {
         return offered;
     }
     IPSERDESIP::ConfigMap config;
     entry->protocol->setDevice(m_device);
     IPSERDESIP::serdes::instance()->setEditing(name);
-    const Status ran = runDialog(
+    Status ran = runDialog(
         name, [&] { return entry->protocol->open(instance.config); }, &config);
     IPSERDESIP::serdes::instance()->setEditing(QString());
     if (!ran.ok() || config.isEmpty()) {
@@ -323,7 +323,7 @@ Status Workbench::accept(const QString& name, const QString& ip,
     const Ipgen::ProjectInstance after{ip, config};
     m_project->takeModelData();
     m_project->setInstance(name, after);
-    const Status saved = saveProject();
+    Status saved = saveProject();
     if (saved.ok()) {
         m_undo.push(new InstanceChange(this, {{name, before, after}}, what));
     }
@@ -338,7 +338,7 @@ void Workbench::put(const QVector<Placement>& placements) {
             m_project->removeInstance(one.name);
         }
     }
-    const Status saved = saveProject();
+    Status saved = saveProject();
     if (!saved.ok()) {
         Q_EMIT failed(saved);
     }
@@ -346,14 +346,14 @@ void Workbench::put(const QVector<Placement>& placements) {
 
 void Workbench::rename(const QString& from, const QString& to) {
     m_project->renameInstance(from, to);
-    const Status saved = saveProject();
+    Status saved = saveProject();
     if (!saved.ok()) {
         Q_EMIT failed(saved);
     }
 }
 
 Status Workbench::duplicateInstance(const QString& name, const QString& copy) {
-    const Status named = Ipgen::Project::checkInstanceName(copy);
+    Status named = Ipgen::Project::checkInstanceName(copy);
     if (!named.ok()) {
         return named;
     }
@@ -365,7 +365,7 @@ Status Workbench::duplicateInstance(const QString& name, const QString& copy) {
 }
 
 Status Workbench::renameInstance(const QString& from, const QString& to) {
-    const Status named = Ipgen::Project::checkInstanceName(to);
+    Status named = Ipgen::Project::checkInstanceName(to);
     if (!named.ok() || from == to) {
         return named;
     }
@@ -373,7 +373,7 @@ Status Workbench::renameInstance(const QString& from, const QString& to) {
         return {Exit::Refused, to, tr("there is an instance of this name already")};
     }
     m_project->renameInstance(from, to);
-    const Status saved = saveProject();
+    Status saved = saveProject();
     if (saved.ok()) {
         m_undo.push(new Renaming(this, from, to));
     }
@@ -388,7 +388,7 @@ Status Workbench::removeInstances(const QStringList& names) {
             m_project->removeInstance(name);
         }
     }
-    const Status saved = saveProject();
+    Status saved = saveProject();
     if (saved.ok() && !changes.isEmpty()) {
         m_undo.push(new InstanceChange(this, changes,
                                        names.size() == 1
