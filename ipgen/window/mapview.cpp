@@ -163,7 +163,7 @@ void MapView::drawCell(QPainter& painter, const QPalette& palette, int index) co
     const MapCell& cell = m_cells.at(index);
     const QRectF place = m_places.at(index);
     const bool dark = isDark(palette);
-    const QColor ink = palette.color(QPalette::Text);
+    const QColor& ink = palette.color(QPalette::Text);
     // Several owners get narrower badges, so that the label keeps its room.
     constexpr int most = 3;
     const int shown = std::min(cell.owners.size(), most);
