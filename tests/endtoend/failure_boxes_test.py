@@ -245,6 +245,15 @@ class Rates(BoxTest):
                                      CALCULATE],
                     [RATE, RATE], [put(FREQUENCY, "156.25")], stored=BIAS_OF_QUAD0)
 
+    def test_lone_receiver_without_a_clock(self):
+        # Only REFMUX1, GPIO and MCLK bring a receiver's script a clock on the 15k class.
+        self.new_project("15k")
+        self.assert_turned_down(
+            lanes(*QUAD0) + [
+                put(OPERATION, "RX Only"), put(PLL_SOURCE, "REFMUX0"),
+                put(mux_source(0), "Q0 REFCLK0"), put(mux_source(1), "Q0 REFCLK1"), CALCULATE],
+            [RATE, RATE], [put(PLL_SOURCE, "REFMUX1")], stored=BIAS_OF_QUAD0)
+
     def test_the_question_comes_first_and_once(self):
         self.new_project("60k")
         self.assert_turned_down(
