@@ -99,6 +99,54 @@ class SharedPll(EndToEnd):
         self.assert_field(states["shared"][TX], "2.5", False)
         self.assertEqual(self.resources()["plls"]["Q0_QPLL0"]["rate"], 2.5)
 
+    def test_frequency_of_nine_digits(self):
+        # The second dialog shows six digits of it, and that is the same clock:
+        # 2 * 322.265625 * 16 = 10312.5.
+        self.new_project("60k")
+        rates = [put(TX, "10.3125"), put("tab1/RXLineRate", "10.3125")]
+        self.create("link0", lanes("q0_l0") + rates + [
+            put(PLL, "QPLL1"), put(FREQUENCY, "322.265625")])
+        report = self.session("create", "link1", lanes("q0_l1") + rates + [
+            state("auto"), put(PLL, "QPLL1"), state("shared"), put(PLL, "CPLL"), ACCEPT])
+        self.assert_field(report["states"]["auto"][FREQUENCY], "322.266", False)
+        self.assert_field(report["states"]["shared"][FREQUENCY], "322.266", False)
+        self.assertEqual(report["result"], "accepted")
+        self.assert_owners("referenceClocks", {"Q0_REFCLK0": ["link0", "link1"]})
+
+    def test_no_lane_is_left(self):
+        self.new_project("138k")
+        self.create("link0", lanes("q0_l0", "q0_l1", "q0_l2", "q0_l3", "q1_l3"))
+        self.create("link1", lanes("q1_l0", "q1_l1", "q1_l2"))
+        report = self.session("create", "link2", [try_put("tab1/q1_l3", True), state("fresh"),
+                                                  CALCULATE])
+        self.assertEqual(enabled_lanes(report["states"]["fresh"]), [])
+        self.assertEqual([refusal["step"] for refusal in report["refused"]], [1])
+        self.assertEqual([row["owners"] for row in self.resources()["lanes"].values()],
+                         [["link0"]] * 4 + [["link1"]] * 3 + [["link0"]])
+
+    def test_two_instances_of_a_merge_on_one_lane(self):
+        self.new_project("60k")
+        self.create("link0", lanes("q0_l0"))
+        self.create("link1", lanes("q0_l1"))
+
+        def move(document):
+            document["instances"]["link1"]["config"].update(
+                Q0_LN0=True, Q0_LN1=False, recordlanes=["Q0 Lane0"])
+        self.edit_project(move)
+        self.assert_owners("lanes", {"Q0 Lane0": ["link0", "link1"]})
+        before = self.project_bytes()
+        for name, other in (("link0", "link1"), ("link1", "link0")):
+            run = self.ipgen("check", self.project, name, code=1)
+            self.assertIn("Q0 Lane0 is held by " + other, run.out)
+            # The way out: another lane instead.
+            states = self.look(name, [state("opened")], command="open")
+            box = states["opened"]["tab1/q0_l0"]
+            self.assertEqual((box["checked"], box["enabled"]), (True, True))
+        self.assertEqual(self.project_bytes(), before)
+        self.session("open", "link1", [put("tab1/q0_l0", False), put("tab1/q0_l3", True), ACCEPT])
+        self.assertEqual(self.ipgen("check", self.project).out, "link0: ok\nlink1: ok\n")
+        self.assert_owners("lanes", {"Q0 Lane0": ["link0"], "Q0 Lane3": ["link1"]})
+
     def test_removing_the_first_frees_everything(self):
         self.new_project("60k")
         self.create("link0", backplane("q0_l0"))
