@@ -1,5 +1,5 @@
 """Random configurations a user can make: chosen from what the dialog offers, accepted, generated,
-read by Icarus Verilog, and opened again to the same configuration.
+read by Icarus Verilog, opened again to the same configuration, and made again from a recording.
 
 IPGEN_RANDOM_COUNT: configurations a device class; IPGEN_RANDOM_SEED: where the choice starts. A
 failure prints the session script, which `ipgen create --script` plays again.
@@ -242,8 +242,9 @@ class RandomTest(EndToEnd):
                 shutil.rmtree(self.project)
 
     def check(self, draw):
+        recording = self.path("recorded.json")
         run = self.run_ipgen("create", self.project, "drawn", "--script", "-", "--report", "-",
-                             stdin=json.dumps(draw.steps + [ACCEPT]))
+                             "--record", recording, stdin=json.dumps(draw.steps + [ACCEPT]))
         report = json.loads(run.out)
         self.assertEqual((run.code, report["result"]), (0, "accepted"),
                          (run.err, report["messages"]))
@@ -259,6 +260,11 @@ class RandomTest(EndToEnd):
         again = self.session("open", "drawn", [ACCEPT])
         self.assertEqual((again["result"], again["config"], again["messages"]),
                          ("accepted", config, []))
+        self.assertEqual(self.project_bytes(), before)
+        # Played back over an empty project, what was recorded makes the same project.
+        self.ipgen("remove", self.project, "drawn")
+        self.edit_project(lambda document: document.update(data={}))
+        self.ipgen("create", self.project, "drawn", "--script", recording)
         self.assertEqual(self.project_bytes(), before)
 
     def folder_of(self, config):
