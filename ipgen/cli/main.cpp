@@ -8,6 +8,13 @@ namespace {
 
 constexpr int faultStatus = 70;
 
+#ifdef __SANITIZE_ADDRESS__
+
+/// The sanitizer has better words for a crash.
+void catchFaults() {}
+
+#else
+
 /// A crash ends with the status of a fault, and with a line that says so.
 void onFault(int number) {
     const char front[] = "ipgen: fault: the program crashed, signal ";
@@ -21,7 +28,6 @@ void onFault(int number) {
 }
 
 void catchFaults() {
-#ifndef __SANITIZE_ADDRESS__  // which has better words for it
     static char stack[65536]; // a fault may be the end of the usual one
     stack_t other{};
     other.ss_sp = stack;
@@ -33,8 +39,9 @@ void catchFaults() {
     for (const int number : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT}) {
         ::sigaction(number, &action, nullptr);
     }
-#endif
 }
+
+#endif
 
 } // namespace
 
