@@ -53,12 +53,12 @@ Status Context::openProject(const std::string& folder, Project* project) {
 }
 
 Status Context::openProjectInModel(const std::string& folder, Project* project, bool tellSkipped) {
-    const Status loaded = openProject(folder, project);
+    Status loaded = openProject(folder, project);
     if (!loaded.ok()) {
         return loaded;
     }
     QList<Status> skipped;
-    const Status opened = project->openInModel(catalogue(), tellSkipped ? &skipped : nullptr);
+    Status opened = project->openInModel(catalogue(), tellSkipped ? &skipped : nullptr);
     for (const Status& one : qAsConst(skipped)) {
         tell(one);
     }

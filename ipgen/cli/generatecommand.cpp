@@ -80,7 +80,7 @@ private:
             return generate(request);
         }
         const NetlistReport report(name, m_quiet);
-        const GenerationResult result = generate(request);
+        GenerationResult result = generate(request);
         m_cancelled = report.isCancelled();
         return result;
     }
