@@ -120,7 +120,7 @@ QString readStep(const QVariant& value, Step* step) {
         }
     }
     for (auto it = map.begin(); it != map.end(); ++it) {
-        const bool makes = findWord(it.key()) != nullptr;
+        const bool makes = made != nullptr && findWord(it.key()) != nullptr;
         const QString error =
             makes ? readTarget(*made, it.value(), step)
                   : readCompanion(it.key(), it.value(),
