@@ -154,7 +154,7 @@ void MainWindow::makeMenus() {
     for (int i = 0; i < m_views->count(); ++i) {
         QAction* action = view->addAction(m_views->tabText(i));
         dress(action, "view", tr("Show this view of the project"),
-              QKeySequence(Qt::CTRL + Qt::Key_1 + i));
+              QKeySequence(QStringLiteral("Ctrl+%1").arg(i + 1)));
         connect(action, &QAction::triggered, this, [this, i] { showPage(i); });
     }
     view->addSeparator();

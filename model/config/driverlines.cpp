@@ -144,7 +144,7 @@ void appendReceiveClockLines(const ConfigView& config, QStringList& script) {
     }
 
     const QStringList recorded = config.list(Key::RecordLanes);
-    const bool used[] = {usesQuad(recorded, 0), usesQuad(recorded, 1)};
+    const std::array<bool, quadPrefixes.size()> used{usesQuad(recorded, 0), usesQuad(recorded, 1)};
     if (used[0] && used[1]) {
         script.append(QStringLiteral("q0_rx_quad_clk_sel common"));
         script.append(QStringLiteral("q1_rx_quad_clk_sel common"));
