@@ -2,6 +2,7 @@
 
 #include "dialog/customizeddlg.h"
 
+#include "dialog/combobox.h"
 #include "dialog/rules/analog.h"
 #include "dialog/rules/datapath.h"
 #include "dialog/rules/linerate.h"
@@ -21,14 +22,6 @@
 namespace IPCUSTOMIZED {
 
 namespace {
-
-/// The item of exactly this text, if there is one.
-void select(QComboBox* combo, const QString& text) {
-    const int index = combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0) {
-        combo->setCurrentIndex(index);
-    }
-}
 
 void addWithData(QComboBox* combo, std::initializer_list<std::pair<QLatin1String, int>> items) {
     for (const auto& [text, data] : items) {
@@ -64,7 +57,7 @@ void customizeddlg::initForDevice() {
     updatedRefClkFreq();
     m_forms->tab1.LoopbackMode->addItems({QStringLiteral("OFF"), QStringLiteral("LB_NES"),
                                           QStringLiteral("LB_FES"), QStringLiteral("LB_ENC")});
-    select(m_forms->tab1.LoopbackMode, Value::Off);
+    selectItem(m_forms->tab1.LoopbackMode, Value::Off);
 
     fillDataPath();
     fillBonding();
@@ -127,7 +120,7 @@ void customizeddlg::fillRatesAndClocks() {
         page.CombBoxReferenceClockSource->addItem(sources.at(i), i);
     }
     page.CombBoxPLLSelection->addItems({Value::Qpll0, Value::Qpll1, Value::Cpll});
-    select(page.CombBoxPLLSelection, Value::Cpll);
+    selectItem(page.CombBoxPLLSelection, Value::Cpll);
 
     const auto validate = [this](QLineEdit* edit, const char* pattern, QLatin1String fallback) {
         edit->setValidator(new DefaultingValidator(pattern, fallback, this));
@@ -170,7 +163,7 @@ void customizeddlg::fillDataPath() {
                                "K28.7", "K23.7", "K27.7", "K29.7", "K30.7"}) {
         page.comboBoxPattern->addItem(QLatin1String(symbol));
     }
-    select(page.comboBoxPattern, QStringLiteral("K28.5"));
+    selectItem(page.comboBoxPattern, QStringLiteral("K28.5"));
     page.lineEditMask->setInputMask(QLatin1String(symbolMask));
     page.lineEditMask->setText(QStringLiteral("1111111111"));
 }
@@ -217,9 +210,9 @@ void customizeddlg::fillClockCorrection() {
 void customizeddlg::fillAnalog() {
     const customized_tab5& page = m_forms->tab5;
     page.differeSwingComboBox->addItems(rules::millivolts(180, 900, 48));
-    select(page.differeSwingComboBox, QStringLiteral("900mV"));
+    selectItem(page.differeSwingComboBox, QStringLiteral("900mV"));
     page.sdThresholdComboBox->addItems(rules::millivolts(25, 200, 25));
-    select(page.sdThresholdComboBox, QStringLiteral("100mV"));
+    selectItem(page.sdThresholdComboBox, QStringLiteral("100mV"));
     // A tap counts when it is left, not digit by digit: half-typed sums would raise the warning.
     page.cmSpinBox->setKeyboardTracking(false);
     page.c1SpinBox->setKeyboardTracking(false);

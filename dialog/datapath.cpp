@@ -2,6 +2,7 @@
 
 #include "dialog/customizeddlg.h"
 
+#include "dialog/combobox.h"
 #include "dialog/rules/datapath.h"
 #include "model/config/values.h"
 
@@ -13,21 +14,13 @@ namespace IPCUSTOMIZED {
 
 namespace {
 
-/// Selects the item of exactly this text, if it is there.
-void select(QComboBox* combo, const QString& text) {
-    const int index = combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0) {
-        combo->setCurrentIndex(index);
-    }
-}
-
 /// New items; a choice that is offered again stays, else the first item is taken.
 void refillKeeping(QComboBox* combo, const QStringList& items) {
     const QString chosen = combo->currentText();
     combo->clear();
     combo->addItems(items);
     if (!chosen.isEmpty()) {
-        select(combo, chosen);
+        selectItem(combo, chosen);
     }
 }
 
@@ -42,8 +35,8 @@ void refillFresh(QComboBox* combo, const QStringList& items, bool open) {
 /// Block codings run at one width and ratio only.
 void lockForBlockCoding(bool block, QComboBox* width, QComboBox* ratio) {
     if (block) {
-        select(width, QStringLiteral("16"));
-        select(ratio, QStringLiteral("1:4"));
+        selectItem(width, QStringLiteral("16"));
+        selectItem(ratio, QStringLiteral("1:4"));
     }
     width->setEnabled(!block);
     ratio->setEnabled(!block);

@@ -1,5 +1,6 @@
 #include "dialog/fields.h"
 
+#include "dialog/combobox.h"
 #include "dialog/formset.h"
 #include "model/config/keys.h"
 
@@ -141,8 +142,7 @@ void setFieldValue(const BoundField& field, const QVariant& value) {
         return;
     }
     if (auto* combo = qobject_cast<QComboBox*>(field.widget)) {
-        combo->setCurrentIndex(
-            combo->findText(value.toString(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+        combo->setCurrentIndex(itemIndex(combo, value.toString()));
     } else if (auto* edit = qobject_cast<QLineEdit*>(field.widget)) {
         edit->setText(value.toString());
     } else if (auto* box = qobject_cast<QCheckBox*>(field.widget)) {

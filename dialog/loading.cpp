@@ -2,6 +2,7 @@
 
 #include "dialog/customizeddlg.h"
 
+#include "dialog/combobox.h"
 #include "dialog/rules/references.h"
 #include "model/config/configview.h"
 #include "model/config/keys.h"
@@ -29,7 +30,7 @@ bool isRestoredFirst(QLatin1String key) {
 }
 
 bool offers(const QComboBox* combo, const QString& text) {
-    return combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0;
+    return itemIndex(combo, text) >= 0;
 }
 
 } // namespace
@@ -56,8 +57,7 @@ void customizeddlg::loadRatio(const ConfigMap& config) {
     for (const QLatin1String first : {Value::NotConnected, "5x"_l1}) {
         if (offers(ratio, first)) {
             const QString saved = view.text(Key::TxRateRatio, first);
-            ratio->setCurrentIndex(
-                ratio->findText(saved, Qt::MatchExactly | Qt::MatchCaseSensitive));
+            ratio->setCurrentIndex(itemIndex(ratio, saved));
             return;
         }
     }

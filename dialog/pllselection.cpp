@@ -2,6 +2,7 @@
 
 #include "dialog/customizeddlg.h"
 
+#include "dialog/combobox.h"
 #include "dialog/rules/references.h"
 #include "model/config/lanes.h"
 #include "model/config/values.h"
@@ -58,8 +59,8 @@ bool customizeddlg::takeOverPll() {
     }
     txRealLineRate = message.value(QStringLiteral("TX_Line_Rate")).toDouble();
     const QString source = message.value(QStringLiteral("Reference_Clock_Source")).toString();
-    page.CombBoxReferenceClockSource->setCurrentIndex(page.CombBoxReferenceClockSource->findText(
-        source, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    page.CombBoxReferenceClockSource->setCurrentIndex(
+        itemIndex(page.CombBoxReferenceClockSource, source));
     page.ReferenceClockFrequency->setText(
         QString::number(message.value(QStringLiteral("Reference_Clock_Frequency")).toDouble()));
     page.TXLineRate->setEnabled(false);
