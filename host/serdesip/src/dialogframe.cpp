@@ -3,10 +3,11 @@
 #include "elidedlabel.h"
 #include "figureview.h"
 
+#include <serdesip/protocolgendlg.h>
+
 #include <QAction>
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -24,10 +25,6 @@
 namespace IPSERDESIP {
 
 namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("IPSERDESIP::protocolGenDlg", text);
-}
 
 template <typename Widget>
 Widget* named(Widget* widget, const char* name, const QString& accessibleName) {
@@ -66,21 +63,26 @@ QLayout* header(DialogFrame& frame, QDialog& dialog) {
     frame.deviceName->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* row = new QHBoxLayout;
     row->addWidget(frame.label, 1);
-    row->addWidget(historyButton(dialog, frame.undo, "undo", tr("Undo"), QKeySequence::Undo));
-    row->addWidget(historyButton(dialog, frame.redo, "redo", tr("Redo"), QKeySequence::Redo));
+    row->addWidget(
+        historyButton(dialog, frame.undo, "undo", protocolGenDlg::tr("Undo"), QKeySequence::Undo));
+    row->addWidget(
+        historyButton(dialog, frame.redo, "redo", protocolGenDlg::tr("Redo"), QKeySequence::Redo));
     row->addSpacing(12);
     row->addWidget(frame.deviceName);
     return row;
 }
 
 QLayout* options(DialogFrame& frame) {
-    frame.fileName = named(new QLineEdit, "fileName", tr("File Name"));
-    frame.moduleName = named(new QLineEdit, "moduleName", tr("Module Name"));
-    frame.synthesisTool = named(new QComboBox, "synthesisTool", tr("Synthesis Tool"));
-    frame.synthesisTool->addItems({QStringLiteral("Yosys"), tr("Other"), tr("None")});
-    frame.language = named(new QComboBox, "language", tr("Language"));
+    frame.fileName = named(new QLineEdit, "fileName", protocolGenDlg::tr("File Name"));
+    frame.moduleName = named(new QLineEdit, "moduleName", protocolGenDlg::tr("Module Name"));
+    frame.synthesisTool =
+        named(new QComboBox, "synthesisTool", protocolGenDlg::tr("Synthesis Tool"));
+    // What is chosen is saved: the same text in every language.
+    frame.synthesisTool->addItems(
+        {QStringLiteral("Yosys"), QStringLiteral("Other"), QStringLiteral("None")});
+    frame.language = named(new QComboBox, "language", protocolGenDlg::tr("Language"));
     frame.language->addItems({QStringLiteral("Verilog"), QStringLiteral("VHDL")});
-    frame.createIn = named(new QLineEdit, "createIn", tr("Create In"));
+    frame.createIn = named(new QLineEdit, "createIn", protocolGenDlg::tr("Create In"));
     frame.createIn->setReadOnly(true);
     frame.createIn->setFocusPolicy(Qt::ClickFocus);
     frame.createIn->setFrame(false);
@@ -89,11 +91,11 @@ QLayout* options(DialogFrame& frame) {
     frame.createIn->setPalette(flat);
 
     auto* grid = new QGridLayout;
-    addField(grid, 0, 0, tr("File Name:"), frame.fileName);
-    addField(grid, 0, 2, tr("Module Name:"), frame.moduleName);
-    addField(grid, 0, 4, tr("Synthesis Tool:"), frame.synthesisTool);
-    addField(grid, 0, 6, tr("Language:"), frame.language);
-    addField(grid, 1, 0, tr("Create In:"), frame.createIn, 7);
+    addField(grid, 0, 0, protocolGenDlg::tr("File Name:"), frame.fileName);
+    addField(grid, 0, 2, protocolGenDlg::tr("Module Name:"), frame.moduleName);
+    addField(grid, 0, 4, protocolGenDlg::tr("Synthesis Tool:"), frame.synthesisTool);
+    addField(grid, 0, 6, protocolGenDlg::tr("Language:"), frame.language);
+    addField(grid, 1, 0, protocolGenDlg::tr("Create In:"), frame.createIn, 7);
     grid->setColumnStretch(1, 3);
     grid->setColumnStretch(3, 3);
     return grid;
@@ -102,10 +104,10 @@ QLayout* options(DialogFrame& frame) {
 /// The pages, and above them and the figure the bar that chooses one: the titles need the whole
 /// width, so the tab widget's own bar stays hidden.
 QTabBar* pages(DialogFrame& frame) {
-    frame.tabs = named(new QTabWidget, "tabs", tr("Options"));
+    frame.tabs = named(new QTabWidget, "tabs", protocolGenDlg::tr("Options"));
     frame.tabs->setDocumentMode(true);
     frame.tabs->tabBar()->hide();
-    frame.tabBar = named(new QTabBar, "tabBar", tr("Pages"));
+    frame.tabBar = named(new QTabBar, "tabBar", protocolGenDlg::tr("Pages"));
     frame.tabBar->setExpanding(false);
     QObject::connect(frame.tabBar, &QTabBar::currentChanged, frame.tabs,
                      &QTabWidget::setCurrentIndex);
@@ -126,9 +128,11 @@ QWidget* symbol(DialogFrame& frame) {
     frame.portCount = new QLabel;
     frame.figure = new FigureView;
     frame.figure->setObjectName(QStringLiteral("figure"));
-    QToolButton* smaller = zoomButton("zoomOut", QString(QChar(0x2212)), tr("Zoom out"));
-    QToolButton* fit = zoomButton("zoomFit", tr("Fit"), tr("Fit the figure to the pane"));
-    QToolButton* larger = zoomButton("zoomIn", QStringLiteral("+"), tr("Zoom in"));
+    QToolButton* smaller =
+        zoomButton("zoomOut", QString(QChar(0x2212)), protocolGenDlg::tr("Zoom out"));
+    QToolButton* fit = zoomButton("zoomFit", protocolGenDlg::tr("Fit"),
+                                  protocolGenDlg::tr("Fit the figure to the pane"));
+    QToolButton* larger = zoomButton("zoomIn", QStringLiteral("+"), protocolGenDlg::tr("Zoom in"));
     QObject::connect(smaller, &QToolButton::clicked, frame.figure, &FigureView::zoomOut);
     QObject::connect(fit, &QToolButton::clicked, frame.figure, &FigureView::fit);
     QObject::connect(larger, &QToolButton::clicked, frame.figure, &FigureView::zoomIn);
@@ -147,10 +151,12 @@ QWidget* symbol(DialogFrame& frame) {
 }
 
 QWidget* side(DialogFrame& frame) {
-    frame.details = named(new QPlainTextEdit, "details", tr("Details of the last failure"));
+    frame.details =
+        named(new QPlainTextEdit, "details", protocolGenDlg::tr("Details of the last failure"));
     frame.details->setReadOnly(true);
     frame.details->setTabChangesFocus(true);
-    frame.details->setPlaceholderText(tr("When a check fails, its reasons stand here."));
+    frame.details->setPlaceholderText(
+        protocolGenDlg::tr("When a check fails, its reasons stand here."));
     frame.details->setMinimumHeight(56);
 
     auto* halves = new QSplitter(Qt::Vertical);
@@ -194,7 +200,7 @@ void DialogFrame::build(QDialog& dialog) {
     column->addWidget(split, 1);
 
     // Beside the buttons, where a message moves nothing.
-    strip = named(new ElidedLabel, "messageStrip", tr("Last message"));
+    strip = named(new ElidedLabel, "messageStrip", protocolGenDlg::tr("Last message"));
     auto* last = new QHBoxLayout;
     last->addWidget(strip, 1);
 

@@ -1,6 +1,7 @@
 #include "namerules.h"
 
-#include <QCoreApplication>
+#include <serdesip/protocolgendlg.h>
+
 #include <QDir>
 #include <QRegularExpression>
 
@@ -11,10 +12,6 @@ namespace IPSERDESIP {
 namespace {
 
 constexpr int kLongestFileName = 255; // bytes, what file systems take
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("IPSERDESIP::protocolGenDlg", text);
-}
 
 bool isControl(QChar c) {
     return c.category() == QChar::Other_Control;
@@ -31,27 +28,31 @@ QString shown(QString name) {
 
 QStringList fileNameFaults(const QString& name) {
     if (name.trimmed().isEmpty()) {
-        return {tr("The file name is empty: give the folder that the instance writes to a name.")};
+        return {protocolGenDlg::tr(
+            "The file name is empty: give the folder that the instance writes to a name.")};
     }
     QStringList faults;
     const auto add = [&](const QString& sentence) { faults.append(sentence.arg(shown(name))); };
     if (QDir::isAbsolutePath(name)) {
-        add(tr("The file name \"%1\" is an absolute path: give a plain name; the folder is made "
-               "in the transceiver working directory."));
+        add(protocolGenDlg::tr(
+            "The file name \"%1\" is an absolute path: give a plain name; the folder is made "
+            "in the transceiver working directory."));
     } else if (name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\'))) {
-        add(tr("The file name \"%1\" contains a path separator (\"/\" or \"\\\"): give a plain "
-               "name."));
+        add(protocolGenDlg::tr(
+            "The file name \"%1\" contains a path separator (\"/\" or \"\\\"): give a plain "
+            "name."));
     }
     const QStringList parts = name.split(QRegularExpression(QStringLiteral("[/\\\\]")));
     if (parts.contains(QLatin1String("..")) || parts.contains(QLatin1String("."))) {
-        add(tr("The file name \"%1\" names a folder relative to another (\".\" or \"..\"): give "
-               "a plain name."));
+        add(protocolGenDlg::tr(
+            "The file name \"%1\" names a folder relative to another (\".\" or \"..\"): give "
+            "a plain name."));
     }
     if (std::any_of(name.begin(), name.end(), isControl)) {
-        add(tr("The file name \"%1\" contains a control character: remove it."));
+        add(protocolGenDlg::tr("The file name \"%1\" contains a control character: remove it."));
     }
     if (const int bytes = name.toUtf8().size(); bytes > kLongestFileName) {
-        faults.append(tr("The file name is %1 bytes long: at most %2 are possible.")
+        faults.append(protocolGenDlg::tr("The file name is %1 bytes long: at most %2 are possible.")
                           .arg(bytes)
                           .arg(kLongestFileName));
     }
@@ -60,16 +61,18 @@ QStringList fileNameFaults(const QString& name) {
 
 QString moduleNameFault(const QString& name) {
     if (name.isEmpty()) {
-        return tr("The module name is empty: give the module a name.");
+        return protocolGenDlg::tr("The module name is empty: give the module a name.");
     }
     if (!isVerilogIdentifier(name)) {
-        return tr("The module name \"%1\" is no Verilog identifier: it begins with a letter or "
-                  "\"_\" and goes on with letters, digits, \"_\" and \"$\".")
+        return protocolGenDlg::tr(
+                   "The module name \"%1\" is no Verilog identifier: it begins with a letter or "
+                   "\"_\" and goes on with letters, digits, \"_\" and \"$\".")
             .arg(shown(name));
     }
     if (isVerilogKeyword(name)) {
-        return tr("The module name \"%1\" is a reserved word of Verilog or SystemVerilog: choose "
-                  "another.")
+        return protocolGenDlg::tr(
+                   "The module name \"%1\" is a reserved word of Verilog or SystemVerilog: choose "
+                   "another.")
             .arg(name);
     }
     return {};
