@@ -5,8 +5,10 @@
 #include "ipgen/cli/context.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QTextCodec>
 
+#include <clocale>
 #include <exception>
 #include <iostream>
 #include <sstream>
@@ -91,6 +93,10 @@ Exit runParsed(Context& context, Command& command, int argc, char** argv) {
         return Exit::Refused;
     }
     const auto application = makeApplication(command.screen(), argc, argv);
+    // Numbers are written with a point, as the generated files have them: in fields, and where a
+    // plug-in uses the C library, to which Qt has just told the user's locale.
+    QLocale::setDefault(QLocale::c());
+    std::setlocale(LC_NUMERIC, "C");
     const Exit result = command.run(context);
     const Exit flushed = context.flush();
     return result == Exit::Done ? flushed : result;

@@ -73,6 +73,7 @@ class Run:
 
 class EndToEnd(unittest.TestCase):
     maxDiff = None
+    locale = {"LC_ALL": "C.UTF-8"}
 
     def setUp(self):
         self.folder = tempfile.mkdtemp(prefix="ipgen-e2e-")
@@ -83,7 +84,7 @@ class EndToEnd(unittest.TestCase):
         return os.path.join(self.folder, *parts)
 
     def run_ipgen(self, *arguments, stdin=""):
-        environment = {"PATH": "/usr/bin:/bin", "HOME": self.folder, "LC_ALL": "C.UTF-8"}
+        environment = {"PATH": "/usr/bin:/bin", "HOME": self.folder, **self.locale}
         for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
             if name in os.environ:
                 environment[name] = os.environ[name]

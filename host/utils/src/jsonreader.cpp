@@ -101,7 +101,8 @@ public:
         return add(static_cast<qulonglong>(value));
     }
     bool number_float(double value, const std::string& digits) override {
-        if (digits.find_first_of(".eE") == std::string::npos) {
+        // The decimal point in here is the locale's.
+        if (digits.find_first_not_of("-0123456789") == std::string::npos) {
             // The parser has read the character after the number, if there is one.
             const bool ahead = m_text[*m_offset - 1] < '0' || m_text[*m_offset - 1] > '9';
             return fail(*m_offset - (ahead ? 1 : 0) - static_cast<int>(digits.size()),

@@ -2,6 +2,7 @@
 
 #include <QtTest>
 
+#include <clocale>
 #include <limits>
 
 using Utils::JsonForm;
@@ -179,6 +180,28 @@ private Q_SLOTS:
         QFETCH(JsonForm, form);
         QFETCH(QByteArray, expected);
         QCOMPARE(Utils::writeJson(value, form), expected);
+    }
+
+    void readsNumbersInEveryLocale() {
+        // Made here: a system has only the locales that its owner chose.
+        const QTemporaryDir folder;
+        const QString made = folder.filePath(QStringLiteral("de_DE.UTF-8"));
+        QCOMPARE(QProcess::execute(QStringLiteral("localedef"),
+                                   {QStringLiteral("--no-archive"), QStringLiteral("-i"),
+                                    QStringLiteral("de_DE"), QStringLiteral("-f"),
+                                    QStringLiteral("UTF-8"), made}),
+                 0);
+        qputenv("LOCPATH", folder.path().toUtf8());
+        QVERIFY(std::setlocale(LC_NUMERIC, "de_DE.UTF-8") != nullptr);
+        QCOMPARE(std::localeconv()->decimal_point, ",");
+        QVariant value;
+        Utils::JsonError error;
+        const bool read = Utils::parseJson("[0.0, -2.5, 1e3, 7]", &value, &error);
+        const QByteArray written = Utils::writeJson(QVariantList{2.5}, JsonForm::Compact);
+        std::setlocale(LC_NUMERIC, "C");
+        QVERIFY2(read, qPrintable(error.text()));
+        QCOMPARE(value, QVariant(QVariantList{0.0, -2.5, 1e3, 7}));
+        QCOMPARE(written, QByteArray("[2.5]"));
     }
 
     void roundTrip_data() { readsKinds_data(); }
