@@ -20,6 +20,7 @@ set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
 # Where things lie below the prefix, in the build tree and in the installed tree alike.
 set(IP_DIR lib/ipgen/ip)             # one folder an IP: plug-in, description, data
 set(HOST_DATA_DIR share/ipgen/host)  # devices.json and other data of the reference host
+set(TRANSLATION_DIR share/ipgen/translations)
 
 # project_options(TARGET): applied to every target.
 function(project_options target)

@@ -2,12 +2,15 @@
 
 #include "ipgen/cli/arguments.h"
 #include "ipgen/cli/context.h"
+#include "ipgen/core/translation.h"
 #include "ipgen/session/recorder.h"
 
 #include <utils/filereplace.h>
 #include <utils/jsontext.h>
 
 #include <QFile>
+
+#include <optional>
 
 namespace Ipgen {
 
@@ -78,6 +81,12 @@ Status SessionOptions::readScript() {
 }
 
 Status SessionOptions::run(const Session::Player::Action& action, Session::Report* report) const {
+    // A script names buttons and items by their texts, so it is played and recorded in one
+    // language.
+    std::optional<Translation> translation;
+    if (!isScripted() && m_record.empty()) {
+        translation.emplace();
+    }
     Session::Recorder recorder;
     if (isScripted()) {
         Session::Options options;

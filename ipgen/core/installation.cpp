@@ -25,6 +25,10 @@ QString hostDataFolder() {
     return belowPrefix(HOST_DATA_DIR);
 }
 
+QString translationFolder() {
+    return belowPrefix(TRANSLATION_DIR);
+}
+
 Status loadDevices() {
     const QString path = hostDataFolder() + QStringLiteral("/devices.json");
     QString error;

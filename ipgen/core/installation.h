@@ -15,6 +15,8 @@ namespace Ipgen {
 QString installedIpFolder();
 /// The reference host's data files.
 QString hostDataFolder();
+/// What the window and the frame of the dialogs say in other languages.
+QString translationFolder();
 
 /// Reads the device database and makes it the environment's (Core::IdeCore::deviceDataBase()).
 Status loadDevices();

@@ -1,12 +1,14 @@
-// A pseudo-locale: every text that the window shows goes through the translator, and nothing that
-// is generated or saved does.
+// Every text that the window shows is found in the compiled translations under the context that it
+// is asked for with, and nothing that is saved is translated. The language is the environment's.
 
+#include "ipgen/core/translation.h"
 #include "ipgen/window/mainwindow.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,13 +18,24 @@ using namespace Window;
 
 namespace {
 
-/// Puts every text in brackets.
+/// A pseudo-locale: puts every text in brackets that the German translation has.
 class Brackets : public QTranslator {
 public:
-    QString translate(const char*, const char* source, const char*, int) const override {
-        return QLatin1Char('[') + QString::fromUtf8(source) + QLatin1Char(']');
+    Brackets() {
+        if (!m_german.load(QStringLiteral(BUILD_DIR "/share/ipgen/translations/ipgen_de"))) {
+            qFatal("no German translation");
+        }
+    }
+    QString translate(const char* context, const char* source, const char* disambiguation,
+                      int n) const override {
+        return m_german.translate(context, source, disambiguation, n).isEmpty()
+                   ? QString()
+                   : QLatin1Char('[') + QString::fromUtf8(source) + QLatin1Char(']');
     }
     bool isEmpty() const override { return false; }
+
+private:
+    QTranslator m_german;
 };
 
 } // namespace
@@ -32,8 +45,12 @@ class TranslationTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase();
+    void init();
+    void cleanup();
     void everyTextIsTranslated();
     void savedFileIsNot();
+    void language_data();
+    void language();
 
 private:
     QTemporaryDir m_home;
@@ -43,7 +60,14 @@ private:
 void TranslationTest::initTestCase() {
     qputenv("XDG_CONFIG_HOME", m_home.path().toUtf8());
     qputenv("XDG_CACHE_HOME", m_home.path().toUtf8());
+}
+
+void TranslationTest::init() {
     QVERIFY(QCoreApplication::installTranslator(&m_brackets));
+}
+
+void TranslationTest::cleanup() {
+    QVERIFY(QCoreApplication::removeTranslator(&m_brackets));
 }
 
 void TranslationTest::everyTextIsTranslated() {
@@ -66,7 +90,9 @@ void TranslationTest::everyTextIsTranslated() {
     const QList<QWidget*> widgets = window.findChildren<QWidget*>();
     for (const QWidget* widget : widgets) {
         look(widget, widget->toolTip());
-        if (!widget->objectName().startsWith(QLatin1String("qt_"))) {
+        const bool qts = widget->objectName().startsWith(QLatin1String("qt_")) ||
+                         qobject_cast<const QTabBar*>(widget->parentWidget()) != nullptr;
+        if (!qts) {
             look(widget, widget->accessibleName());
         }
         if (const auto* label = qobject_cast<const QLabel*>(widget)) {
@@ -93,6 +119,35 @@ void TranslationTest::savedFileIsNot() {
     QFile file(folder + QStringLiteral("/project.json"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(!file.readAll().contains('['));
+}
+
+void TranslationTest::language_data() {
+    QTest::addColumn<QStringList>("languages");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("menu");
+    const QString english = QStringLiteral("&View");
+    const QString german = QStringLiteral("&Ansicht");
+    QTest::newRow("none") << QStringList() << "" << english;
+    QTest::newRow("C") << QStringList{"C"} << "" << english;
+    QTest::newRow("German") << QStringList{"de-DE"} << "de" << german;
+    QTest::newRow("Austrian") << QStringList{"de-AT"} << "de" << german;
+    QTest::newRow("no file of it") << QStringList{"tr-TR"} << "" << english;
+    QTest::newRow("the second") << QStringList{"tr-TR", "de-DE"} << "de" << german;
+    QTest::newRow("English first") << QStringList{"en-GB", "de-DE"} << "" << english;
+}
+
+void TranslationTest::language() {
+    QFETCH(QStringList, languages);
+    QFETCH(QString, language);
+    QFETCH(QString, menu);
+    QVERIFY(QCoreApplication::removeTranslator(&m_brackets));
+    {
+        const Ipgen::Translation translation(languages);
+        QCOMPARE(translation.language(), language);
+        QCOMPARE(QCoreApplication::translate("Actions", "&View"), menu);
+    }
+    QCOMPARE(QCoreApplication::translate("Actions", "&View"), QStringLiteral("&View"));
+    QVERIFY(QCoreApplication::installTranslator(&m_brackets));
 }
 
 QTEST_MAIN(TranslationTest)
