@@ -1,9 +1,10 @@
 # bash completion for ipgen
+# shellcheck shell=bash
 _ipgen()
 {
     local cur prev words cword
     _init_completion -n : || return
-    local command= i
+    local command="" i
     for ((i = 1; i < cword; i++)); do
         case ${words[i]} in
             --plugin-dir) ((i++)) ;;
@@ -21,11 +22,11 @@ _ipgen()
             return
             ;;
         --device)
-            COMPREPLY=($(compgen -W "$(ipgen devices 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur"))
+            mapfile -t COMPREPLY < <(compgen -W "$(ipgen devices 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur")
             return
             ;;
         --ip)
-            COMPREPLY=($(compgen -W "$(ipgen catalog 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur"))
+            mapfile -t COMPREPLY < <(compgen -W "$(ipgen catalog 2>/dev/null | grep '^[^ ]')" -- "$cur")
             return
             ;;
         --set | --jobs)
@@ -54,12 +55,12 @@ _ipgen()
         *) return ;;
     esac
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W "$options" -- "$cur"))
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$cur")
         return
     fi
     case $command in
         "")
-            COMPREPLY=($(compgen -W "catalog devices new list create open check generate example resources figure remove emit gui diff summary" -- "$cur"))
+            mapfile -t COMPREPLY < <(compgen -W "catalog devices new list create open check generate example resources figure remove emit gui diff summary" -- "$cur")
             return
             ;;
         catalog | devices | emit)
@@ -71,7 +72,7 @@ _ipgen()
             ;;
     esac
     # The project first, then its instances.
-    local project= word
+    local project="" word
     for word in "${words[@]:i+1:cword-i-1}"; do
         if [[ $word != -* && -f $word/project.json ]]; then
             project=$word
@@ -80,7 +81,7 @@ _ipgen()
     if [[ -z $project ]]; then
         _filedir -d
     elif [[ $command != new && $command != gui ]]; then
-        COMPREPLY=($(compgen -W "$(ipgen list "$project" 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur"))
+        mapfile -t COMPREPLY < <(compgen -W "$(ipgen list "$project" 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur")
     fi
 } &&
     complete -F _ipgen ipgen
