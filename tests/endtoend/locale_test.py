@@ -7,7 +7,7 @@ import shutil
 import subprocess
 import tempfile
 
-from support import ACCEPT, CALCULATE, EndToEnd, lanes, main, put, state, try_put
+from support import ACCEPT, CALCULATE, CANCEL, EndToEnd, lanes, main, put, state, try_put
 
 FOLDER = os.path.join(os.path.dirname(__file__), "..", "..", "samples")
 SAMPLES = (("backplane-60k", "link0"), ("camera-15k", "sensor"), ("fabric-138k", "mesh"))
@@ -97,6 +97,18 @@ class Locale(EndToEnd):
                 for name, content in files.items():
                     self.assertEqual(other_files[name], content, name)
                 self.assertEqual(other_printed, printed)
+
+    def test_a_script_that_is_shown_is_played_in_english(self):
+        self.new_project("60k")
+        self.locale = {"LANG": "de_DE.UTF-8", "QT_QPA_PLATFORM": "offscreen"}
+        steps = lanes("q0_l0") + [put("frame/fileName", "a/b"), ACCEPT, CANCEL]
+        run = self.ipgen("create", self.project, "link0", "--show", "--script", "-",
+                         "--report", "-", "--record", self.path("again.json"),
+                         stdin=json.dumps(steps))
+        self.assertEqual(run.json()["messages"], [{
+            "title": "Error", "buttons": ["OK"], "answer": "OK",
+            "text": 'The file name "a/b" contains a path separator ("/" or "\\"): '
+                    "give a plain name."}])
 
 
 if __name__ == "__main__":
