@@ -28,15 +28,9 @@ public:
             return context.tell(status);
         }
         QStringList names = fromArguments(m_names);
-        names.removeDuplicates();
-        for (const QString& name : qAsConst(names)) {
-            status = project.checkKnown(name);
-            if (!status.ok()) {
-                return context.tell(status);
-            }
-        }
-        if (names.isEmpty()) {
-            names = project.instanceNames();
+        status = project.select(&names);
+        if (!status.ok()) {
+            return context.tell(status);
         }
         Exit exit = Exit::Done;
         QVariantList list;

@@ -3,6 +3,7 @@
 #include "ipgen/cli/arguments.h"
 #include "ipgen/core/installation.h"
 
+#include <core/viewmanager.h>
 #include <utils/jsontext.h>
 
 #include <cerrno>
@@ -16,9 +17,12 @@ namespace Ipgen {
 Context::Context()
     : m_standardOutput(::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1)) {
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
+    Core::ViewManager::setErrorSink(
+        [this](const QString& what, const QString& why) { tell(what, why); });
 }
 
 Context::~Context() {
+    Core::ViewManager::setErrorSink({});
     if (m_standardOutput >= 0) {
         ::close(m_standardOutput);
     }
@@ -61,6 +65,18 @@ Status Context::openProjectInModel(const std::string& folder, Project* project, 
     Status opened = project->openInModel(catalogue(), tellSkipped ? &skipped : nullptr);
     for (const Status& one : qAsConst(skipped)) {
         tell(one);
+    }
+    return opened;
+}
+
+Status Context::openInstance(const std::string& folder, const QString& name, Project* project,
+                             const CatalogueEntry** entry) {
+    Status opened = openProjectInModel(folder, project);
+    if (opened.ok()) {
+        opened = project->checkKnown(name);
+    }
+    if (opened.ok()) {
+        opened = catalogue().pick(project->instance(name).ip, entry);
     }
     return opened;
 }

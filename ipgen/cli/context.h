@@ -19,7 +19,8 @@ namespace Ipgen {
 class Context {
 public:
     /// Keeps standard output for what is printed here: from now on what an IP or a library writes
-    /// there comes out on standard error.
+    /// there comes out on standard error. What libraries report to the user is told like the
+    /// program's own errors.
     Context();
     ~Context();
     Context(const Context&) = delete;
@@ -44,6 +45,10 @@ public:
     Status openProject(const std::string& folder, Project* project);
     /// @param tellSkipped  whether instances whose IP is not on offer are told
     Status openProjectInModel(const std::string& folder, Project* project, bool tellSkipped = true);
+    /// The project in the model, and the named instance's IP: there is such an instance, and its IP
+    /// is on offer.
+    Status openInstance(const std::string& folder, const QString& name, Project* project,
+                        const CatalogueEntry** entry);
 
     /// Standard output: written at the end, and checked.
     void print(const QString& text) { m_output += text.toUtf8(); }

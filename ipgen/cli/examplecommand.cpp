@@ -26,15 +26,9 @@ public:
 
     Exit run(Context& context) override {
         Project project;
-        Status status = context.openProjectInModel(m_project, &project);
         const QString name = fromArgument(m_name);
-        if (status.ok()) {
-            status = project.checkKnown(name);
-        }
         const CatalogueEntry* entry = nullptr;
-        if (status.ok()) {
-            status = context.catalogue().pick(project.instance(name).ip, &entry);
-        }
+        Status status = context.openInstance(m_project, name, &project, &entry);
         QStringList files;
         const QString folder = QDir(fromArgument(m_folder)).absolutePath();
         if (status.ok()) {

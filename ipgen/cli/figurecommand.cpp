@@ -29,15 +29,9 @@ public:
 
     Exit run(Context& context) override {
         Project project;
-        Status status = context.openProjectInModel(m_project, &project);
         const QString name = fromArgument(m_name);
-        if (status.ok()) {
-            status = project.checkKnown(name);
-        }
         const CatalogueEntry* entry = nullptr;
-        if (status.ok()) {
-            status = context.catalogue().pick(project.instance(name).ip, &entry);
-        }
+        const Status status = context.openInstance(m_project, name, &project, &entry);
         if (!status.ok()) {
             return context.tell(status);
         }

@@ -225,6 +225,20 @@ Status Project::checkKnown(const QString& name) const {
                                   .arg(names.join(QStringLiteral(", ")))};
 }
 
+Status Project::select(QStringList* names) const {
+    for (const QString& name : qAsConst(*names)) {
+        const Status known = checkKnown(name);
+        if (!known.ok()) {
+            return known;
+        }
+    }
+    names->removeDuplicates();
+    if (names->isEmpty()) {
+        *names = instanceNames();
+    }
+    return {};
+}
+
 QVariantMap Project::data() const {
     return m_now.value(dataKey).toMap();
 }

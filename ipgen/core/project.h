@@ -53,6 +53,9 @@ public:
     static Status checkInstanceName(const QString& name);
     /// Refused, with the names there are, when the project has no such instance.
     Status checkKnown(const QString& name) const;
+    /// Takes doubled names out, and makes of no name the names of all instances. As checkKnown():
+    /// no name is changed then.
+    Status select(QStringList* names) const;
 
     /// The transceiver data store.
     QVariantMap data() const;
