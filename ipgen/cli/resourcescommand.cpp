@@ -113,6 +113,9 @@ private:
     }
 
     static void addPll(Resource& resource, const Message& message) {
+        if (message.receivesOnly()) {
+            return; // it settles nothing
+        }
         const QString source = optionText(message.refClocks.value(0));
         const double frequency = message.refFrequencies.value(0);
         resource.settings.append(QStringLiteral("%1 Gbps from %2 at %3 MHz")

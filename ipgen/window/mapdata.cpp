@@ -42,7 +42,7 @@ public:
         }
         for (const QString& pll : message.plls) {
             const QString text =
-                message.realTxRate > 0
+                message.realTxRate > 0 && !message.receivesOnly()
                     ? MapTexts::tr("%1 Gbps from %2 at %3 MHz")
                           .arg(number(message.realTxRate), message.refClocks.value(0),
                                number(message.refFrequencies.value(0)))

@@ -76,9 +76,14 @@ private Q_SLOTS:
     void laneToggleKeepsSourcesNotFrequencies();
     void aMuxInUseIsFixed_data() { addClasses(); }
     void aMuxInUseIsFixed();
+    void aMuxOnAnUnknownSourceOffersNothing_data() { addClasses(); }
+    void aMuxOnAnUnknownSourceOffersNothing();
     void muxesFollowTheQuad();
     void receiveOnly60k();
     void receiveOnly15k();
+    void receiveOnly15kStartsFromRefmux1();
+    void receiveOnlyOnATakenPll_data() { addListed(); }
+    void receiveOnlyOnATakenPll();
     void receiveOnlyWhateverTheMode_data() { addListed(); }
     void receiveOnlyWhateverTheMode();
     void leavingReceiveOnly_data() { addListed(); }
@@ -89,6 +94,7 @@ private Q_SLOTS:
     void repeatedFrequencies();
     void sharedPllIsTakenOver_data();
     void sharedPllIsTakenOver();
+    void aReceiverHidesNoTransmitter();
     void quad0GoesFirst();
     void quad1Alone();
     void channelPllIsFree();
@@ -224,6 +230,20 @@ void ReferencesTest::aMuxInUseIsFixed() {
     QVERIFY(bench.wasShown());
 }
 
+void ReferencesTest::aMuxOnAnUnknownSourceOffersNothing() {
+    QFETCH(QString, device);
+    Bench bench(device);
+    bench.occupy("other", muxHolder("Q0_MUX1", "Q7_REFCLK9", 156.25));
+    bench.create([&](Dialog& dialog) {
+        QVERIFY(dialog.choose("comboBoxMode", "Manual"));
+        QCOMPARE(dialog.items(sources[1]), QStringList());
+        QCOMPARE(state(dialog, sources[1]), QString("shut "));
+        QCOMPARE(state(dialog, frequencies[1]), QString("shut "));
+        QCOMPARE(state(dialog, sources[0]), QString("open NA"));
+    });
+    QVERIFY(bench.wasShown());
+}
+
 void ReferencesTest::muxesFollowTheQuad() {
     Bench bench("RZ7X-138");
     bench.occupy("zero", muxHolder("Q0_MUX0", "Q0_REFCLK0", 100));
@@ -297,6 +317,31 @@ void ReferencesTest::receiveOnly15k() {
         QVERIFY(dialog.choose("CombBoxPLLRefSource", "GPIO"));
         QVERIFY(dialog.choose("comboBoxMode", "Manual"));
         QCOMPARE(state(dialog, "CombBoxPLLRefSource"), QString("open GPIO"));
+    });
+    QVERIFY(bench.wasShown());
+}
+
+void ReferencesTest::receiveOnly15kStartsFromRefmux1() {
+    Bench bench("RZ7X-15A");
+    bench.create([&](Dialog& dialog) {
+        QVERIFY(dialog.choose("comboBoxMode", "Manual"));
+        QVERIFY(dialog.choose("CombBoxPLLRefSource", "GPIO"));
+        QVERIFY(dialog.choose("comboBoxOperationMode", "RX Only"));
+        QCOMPARE(state(dialog, "CombBoxPLLRefSource"), QString("open REFMUX1"));
+    });
+    QVERIFY(bench.wasShown());
+}
+
+void ReferencesTest::receiveOnlyOnATakenPll() {
+    QFETCH(QString, device);
+    Bench bench(device);
+    bench.occupy("other", holder({"Q0 Lane3"}, {"Q0_QPLL1"}, 5.0, "Q0_REFCLK1", 125));
+    bench.create([&](Dialog& dialog) {
+        QVERIFY(dialog.check("q0_l0", true));
+        QVERIFY(dialog.choose("comboBoxOperationMode", "RX Only"));
+        QCOMPARE(state(dialog, "CombBoxPLLSelection"), QString("shut QPLL1"));
+        QCOMPARE(state(dialog, "TXLineRate"), QString("shut 5"));
+        QCOMPARE(state(dialog, "comboBoxTxLineRatio"), QString("shut NA"));
     });
     QVERIFY(bench.wasShown());
 }
@@ -470,6 +515,27 @@ void ReferencesTest::sharedPllIsTakenOver() {
         QVERIFY(dialog.isEnabled("TXLineRate"));
     });
     QCOMPARE(bench.takeMessages(), QStringList());
+}
+
+void ReferencesTest::aReceiverHidesNoTransmitter() {
+    Bench bench("RZ7X-60B");
+    IPSERDESIP::Message receiver = holder({"Q0 Lane3"}, {"Q0_QPLL1"}, 1.25, "Q0_REFCLK0", 100);
+    receiver.laneResources = QStringList{"Q0_LN3_LANE", "Q0_LN3_RX"};
+    bench.occupy("first", receiver);
+    bench.create([&](Dialog& dialog) {
+        QVERIFY(dialog.check("q0_l0", true));
+        QVERIFY(dialog.choose("CombBoxPLLSelection", "QPLL1"));
+        QVERIFY(dialog.isEnabled("TXLineRate"));
+    });
+    bench.occupy("second", holder({"Q0 Lane2"}, {"Q0_QPLL1"}, 5.0, "Q0_REFCLK1", 125));
+    bench.create([&](Dialog& dialog) {
+        QVERIFY(dialog.check("q0_l0", true));
+        QVERIFY(dialog.choose("CombBoxPLLSelection", "QPLL1"));
+        QCOMPARE(state(dialog, "TXLineRate"), QString("shut 5"));
+        QCOMPARE(state(dialog, "CombBoxReferenceClockSource"), QString("shut Q0 REFCLK1"));
+        QCOMPARE(state(dialog, "ReferenceClockFrequency"), QString("shut 125"));
+    });
+    QVERIFY(bench.wasShown());
 }
 
 void ReferencesTest::quad0GoesFirst() {

@@ -7,16 +7,6 @@ namespace IPSERDESIP {
 
 namespace {
 
-/// Whether the instance has receivers and no transmitter: its rate binds nobody.
-bool receivesOnly(const Message& message) {
-    const auto any = [&](const char* suffix) {
-        return std::any_of(
-            message.laneResources.begin(), message.laneResources.end(),
-            [&](const QString& name) { return name.endsWith(QLatin1String(suffix)); });
-    };
-    return any("_RX") && !any("_TX");
-}
-
 /// Every resource that a message names, with its use. The first mention of a resource counts.
 void eachUse(const QString& owner, const Message& message,
              const std::function<void(const QString&, const Holdings::Use&)>& take) {
@@ -26,15 +16,19 @@ void eachUse(const QString& owner, const Message& message,
         take(name, plain);
     }
     Holdings::Use pll = plain;
-    pll.reference = message.refClocks.value(0);
-    pll.frequency = message.refFrequencies.value(0);
-    pll.rate = receivesOnly(message) ? 0.0 : message.realTxRate;
+    pll.binding = !message.receivesOnly();
+    if (pll.binding) {
+        pll.reference = message.refClocks.value(0);
+        pll.frequency = message.refFrequencies.value(0);
+        pll.rate = message.realTxRate;
+    }
     for (const QString& name : message.plls) {
         take(name, pll);
     }
     for (int i = 0; i < message.refClocks.size(); ++i) {
         Holdings::Use pin = plain;
         pin.frequency = message.refFrequencies.value(i);
+        pin.binding = pin.frequency > 0.0;
         take(message.refClocks.at(i), pin);
     }
     for (auto it = message.muxes.cbegin(); it != message.muxes.cend(); ++it) {
@@ -48,13 +42,23 @@ void eachUse(const QString& owner, const Message& message,
 
 } // namespace
 
+bool Message::receivesOnly() const {
+    const auto any = [this](const char* suffix) {
+        return std::any_of(laneResources.begin(), laneResources.end(), [&](const QString& name) {
+            return name.endsWith(QLatin1String(suffix));
+        });
+    };
+    return any("_RX") && !any("_TX");
+}
+
 void Holdings::set(const QString& owner, const Message& message) {
     remove(owner);
     m_messages.insert(owner, message);
     eachUse(owner, message, [this](const QString& resource, const Use& use) {
         Uses& uses = m_uses[resource];
-        if (!resource.isEmpty() && !uses.contains(use.owner)) {
-            uses.insert(use.owner, use);
+        if (!resource.isEmpty() && !uses.contains({true, use.owner}) &&
+            !uses.contains({false, use.owner})) {
+            uses.insert({!use.binding, use.owner}, use);
         }
     });
 }
@@ -67,7 +71,8 @@ void Holdings::remove(const QString& owner) {
     eachUse(owner, *known, [this](const QString& resource, const Use& use) {
         const auto uses = m_uses.find(resource);
         if (uses != m_uses.end()) {
-            uses->remove(use.owner);
+            uses->remove({true, use.owner});
+            uses->remove({false, use.owner});
             if (uses->isEmpty()) {
                 m_uses.erase(uses);
             }
@@ -82,7 +87,7 @@ Holdings::Use Holdings::other(const QString& resource, const QString& except) co
         return {};
     }
     auto use = found->constBegin();
-    if (use != found->constEnd() && use.key() == except) {
+    if (use != found->constEnd() && use->owner == except) {
         ++use;
     }
     return use == found->constEnd() ? Use() : *use;
@@ -95,13 +100,14 @@ QStringList Holdings::owners(const QString& resource, const QString& except, int
         return names;
     }
     for (auto use = found->constBegin(); use != found->constEnd(); ++use) {
-        if (use.key() != except) {
-            names.append(use.key());
+        if (use->owner != except) {
+            names.append(use->owner);
         }
         if (limit > 0 && names.size() == limit) {
             break;
         }
     }
+    names.sort();
     return names;
 }
 

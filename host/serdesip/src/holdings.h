@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QMap>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 
@@ -20,17 +21,21 @@ public:
         QString reference;      ///< a PLL's reference (host name)
         double frequency = 0.0; ///< a pin's, or a PLL's reference's, MHz
         double rate = 0.0;      ///< a PLL's line rate, Gbps
+        /// Whether the owner settles how the resource runs: a transmitter its PLL, an instance that
+        /// gives a frequency its pin. It answers before those that merely hold it.
+        bool binding = true;
     };
 
     void set(const QString& owner, const Message& message);
     void remove(const QString& owner);
-    /// The first use, by owner's name, that is not `except`'s.
+    /// The first use that is not `except`'s: binding ones first, then by owner's name.
     Use other(const QString& resource, const QString& except) const;
+    /// By name; the first `limit` in the order of other(), 0: all.
     QStringList owners(const QString& resource, const QString& except, int limit) const;
     const QMap<QString, Message>& messages() const { return m_messages; }
 
 private:
-    using Uses = QMap<QString, Use>; // by owner
+    using Uses = QMap<QPair<bool, QString>, Use>; // by "not binding" and owner
 
     QMap<QString, Message> m_messages;
     QHash<QString, Uses> m_uses; // by resource

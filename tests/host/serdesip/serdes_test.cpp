@@ -22,6 +22,9 @@ private Q_SLOTS:
     void aNewMessageReplacesTheOld();
     void twoOwnersShareAPin();
     void receiversAloneFixNoRate();
+    void aReceiverHidesNoTransmitter_data();
+    void aReceiverHidesNoTransmitter();
+    void aPinWithoutFrequencyHidesNone();
     void storeKeepsAndReportsChanges();
     void unknownNamesAreNothing();
     void detailsAreNotedOnce();
@@ -142,6 +145,54 @@ void SerdesTest::receiversAloneFixNoRate() {
     message.laneResources += QStringLiteral("Q0_LN0_TX");
     model->setMessage(link, message);
     QCOMPARE(model->getMessageByPLL(qpll1).size(), 3);
+}
+
+void SerdesTest::aReceiverHidesNoTransmitter_data() {
+    QTest::addColumn<QString>("receiver");
+    QTest::newRow("sorts first") << "a";
+    QTest::newRow("sorts last") << "z";
+}
+
+void SerdesTest::aReceiverHidesNoTransmitter() {
+    QFETCH(QString, receiver);
+    serdes* model = openDevice("RZ7X-60B");
+    Message receiving;
+    receiving.lanes = QStringList{QStringLiteral("Q0 Lane3")};
+    receiving.laneResources = QStringList{QStringLiteral("Q0_LN3_RX")};
+    receiving.plls = QStringList{qpll1};
+    receiving.refClocks = QStringList{QStringLiteral("Q0_REFCLK0")};
+    receiving.refFrequencies = {100.0};
+    receiving.realTxRate = 1.25;
+    model->setMessage(receiver, receiving);
+    Message sending = linkMessage();
+    sending.laneResources += QStringLiteral("Q0_LN0_TX");
+    model->setMessage(link, sending);
+    const QMap<QString, QVariant> pll = model->getMessageByPLL(qpll1);
+    QCOMPARE(pll.value(QStringLiteral("TX_Line_Rate")).toDouble(), 10.3125);
+    QCOMPARE(pll.value(QStringLiteral("Reference_Clock_Source")).toString(), refclk1);
+    QCOMPARE(pll.value(QStringLiteral("Reference_Clock_Frequency")).toDouble(), 156.25);
+    QCOMPARE(model->owners(qpll1, 1), QStringList{link});
+    QCOMPARE(model->owners(qpll1).size(), 2);
+    model->setEditing(link);
+    QVERIFY2(model->getMessageByPLL(qpll1).isEmpty(), "its own transmitter is free to it");
+    QVERIFY(model->checkPllEnable(qpll1));
+    model->setEditing(QString());
+    model->removeMessage(receiver);
+    model->removeMessage(link);
+    QVERIFY(!model->checkPllEnable(qpll1));
+}
+
+void SerdesTest::aPinWithoutFrequencyHidesNone() {
+    serdes* model = openDevice("RZ7X-60B");
+    Message unsure;
+    unsure.refClocks = QStringList{QStringLiteral("Q0_REFCLK1")};
+    unsure.refFrequencies = {0.0};
+    model->setMessage(QStringLiteral("a"), unsure);
+    model->setMessage(link, linkMessage());
+    QCOMPARE(model->getFreqByRefsrc(refclk1), 156.25);
+    model->removeMessage(link);
+    QCOMPARE(model->getFreqByRefsrc(refclk1), 0.0);
+    QVERIFY(model->FormStringToREFSPtr(QStringLiteral("Q0_REFCLK1"))->inUse());
 }
 
 void SerdesTest::storeKeepsAndReportsChanges() {

@@ -39,6 +39,10 @@ public:
     double txRate = 0.0;
     double rxRate = 0.0;
     double realTxRate = 0.0;
+
+    /// Whether there are receivers and no transmitter: such an instance sets neither the rate nor
+    /// the reference of the PLLs that it names.
+    bool receivesOnly() const;
 };
 
 } // namespace IPSERDESIP

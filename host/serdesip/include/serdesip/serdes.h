@@ -138,7 +138,8 @@ public:
     /// The messages by owner.
     QMap<QString, Message> messages() const;
     /// Who holds a resource, by name: a lane (caption), PLL, multiplexer or pin. The instance being
-    /// edited is left out. First to last by name; `limit` bounds the list (0: all).
+    /// edited is left out. `limit` bounds the list (0: all); those that settle how the resource
+    /// runs come into it first.
     QStringList owners(const QString& resource, int limit = 0) const;
     /// What checkRoute() recorded for a lane (caption).
     LaneRoute route(const QString& lane) const;
