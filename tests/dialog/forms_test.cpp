@@ -238,6 +238,7 @@ private Q_SLOTS:
     void rowsLeaveTheGrid_data();
     void rowsLeaveTheGrid();
     void retranslateKeepsChoices();
+    void retranslateKeepsEntries();
     void fitsItsColumns_data() { pageRows(); }
     void fitsItsColumns();
 };
@@ -534,6 +535,31 @@ void FormsTest::retranslateKeepsChoices() {
     QCOMPARE(pages.tab1.comboBoxOperationMode->currentText(), QStringLiteral("RX Only"));
     QCOMPARE(pages.tab1.comboBoxOperationMode->count(), 3);
     QCOMPARE(pages.tab1.comboBoxTxLineRatio->itemText(0), QStringLiteral("5x"));
+}
+
+void FormsTest::retranslateKeepsEntries() {
+    Pages pages;
+    QList<QWidget*> fields;
+    for (int page = 1; page <= 5; ++page) {
+        for (QLineEdit* edit : pages.page(page)->findChildren<QLineEdit*>()) {
+            if (qobject_cast<QAbstractSpinBox*>(edit->parentWidget()) == nullptr) {
+                edit->setText(QStringLiteral("11"));
+                fields.append(edit);
+            }
+        }
+    }
+    QVERIFY(fields.size() > 11);
+    pages.tab5.c0Lael->setText(QStringLiteral("25"));
+    pages.tab1.retranslateUi(pages.page(1));
+    pages.tab2.retranslateUi(pages.page(2));
+    pages.tab3.retranslateUi(pages.page(3));
+    pages.tab4.retranslateUi(pages.page(4));
+    pages.tab5.retranslateUi(pages.page(5));
+    for (const QWidget* field : qAsConst(fields)) {
+        QVERIFY2(qobject_cast<const QLineEdit*>(field)->text().startsWith(QLatin1String("11")),
+                 qPrintable(field->objectName()));
+    }
+    QCOMPARE(pages.tab5.c0Lael->text(), QStringLiteral("25"));
 }
 
 void FormsTest::fitsItsColumns() {
