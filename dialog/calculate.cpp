@@ -42,6 +42,7 @@ void finish(QLineEdit* edit) {
 
 void customizeddlg::finishFields() {
     const customized_tab1& page = m_forms->tab1;
+    const QString rate = page.TXLineRate->text();
     for (QLineEdit* edit : m_forms->muxFrequency) {
         finish(edit);
     }
@@ -56,8 +57,7 @@ void customizeddlg::finishFields() {
     }
     checkRXInterlakenMetaFrameLength();
     // The ratio box is rebuilt only for a rate that this has changed: a choice in it stays.
-    const QString rate = page.TXLineRate->text();
-    if (page.TXLineRate->isEnabled() && rules::correctedTxRate(rate) != rate) {
+    if (page.TXLineRate->isEnabled() && rules::correctedTxRate(page.TXLineRate->text()) != rate) {
         checkTxLineRate();
     }
 }

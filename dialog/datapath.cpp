@@ -43,6 +43,9 @@ void lockForBlockCoding(bool block, QComboBox* width, QComboBox* ratio) {
 }
 
 void adapt8B10B(QCheckBox* box, int width) {
+    if (width == 0) {
+        return; // no width chosen: nothing to go by
+    }
     const bool fits = rules::fits8B10B(width);
     if (!fits) {
         box->setChecked(false);

@@ -116,8 +116,7 @@ void customizeddlg::settleFields(const ConfigMap& config) {
             continue;
         }
         if (field.field.key == Key::TxRateRatio) {
-            loadRatio(config);
-            continue;
+            continue; // below: choosing a PLL rebuilds the box
         }
         const QVariant saved = config.value(field.field.key);
         const QVariant shown = fieldValue(field);
@@ -127,6 +126,7 @@ void customizeddlg::settleFields(const ConfigMap& config) {
             setFieldValue(field, saved);
         }
     }
+    loadRatio(config);
 }
 
 void customizeddlg::loadWidgets(const ConfigMap& config) {

@@ -1,6 +1,7 @@
 #include "dialog/rules/references.h"
 
 #include "model/config/configview.h"
+#include "model/config/lanes.h"
 #include "model/config/values.h"
 
 namespace IPCUSTOMIZED::rules {
@@ -56,17 +57,7 @@ QStringList autoSources(DeviceClass device) {
 }
 
 bool usesQuad1Muxes(DeviceClass device, const QStringList& selectedLanes) {
-    if (device != DeviceClass::K138) {
-        return false;
-    }
-    bool quad1 = false;
-    for (const QString& lane : selectedLanes) {
-        if (lane.startsWith("Q0"_l1)) {
-            return false;
-        }
-        quad1 = quad1 || lane.startsWith("Q1"_l1);
-    }
-    return quad1;
+    return device == DeviceClass::K138 && !usesQuad(selectedLanes, 0) && usesQuad(selectedLanes, 1);
 }
 
 QString muxHostName(bool quad1, int mux) {

@@ -327,8 +327,8 @@ void Bench::answerBox(QMessageBox* box) {
     seen.title = box->windowTitle();
     seen.text = box->text();
     seen.icon = box->icon();
-    seen.iconPixmap = box->iconPixmap().size();
-    seen.hasWindowIcon = !box->windowIcon().isNull();
+    seen.iconPixmap = box->iconPixmap().toImage();
+    seen.windowIcon = box->windowIcon();
     seen.isModal = box->isModal();
     seen.belongsToDialog = qobject_cast<protocolGenDlg*>(box->parentWidget()) != nullptr;
     QAbstractButton* chosen = box->defaultButton();

@@ -6,6 +6,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QIcon>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QList>
@@ -36,8 +38,8 @@ struct Box {
     QStringList buttons;
     QString answer; ///< the button that closed it
     QMessageBox::Icon icon = QMessageBox::NoIcon;
-    QSize iconPixmap; ///< empty: it had none
-    bool hasWindowIcon = false;
+    QImage iconPixmap; ///< null: it had none
+    QIcon windowIcon;
     bool isModal = false;
     bool belongsToDialog = false;
 };

@@ -168,6 +168,11 @@ private Q_SLOTS:
     void emptyConfigurationLoads();
     void missingRatio_data();
     void missingRatio();
+    void aSlowReceiversUnknownRatioStaysUnknown_data();
+    void aSlowReceiversUnknownRatioStaysUnknown();
+    void anUnknownWidthShutsNoCoding();
+    void aRatePutBackTakesItsRatioAlong();
+    void aHeldMultiplexerKeepsItsSource();
     void unknownTextsShowNothing_data();
     void unknownTextsShowNothing();
     void textsInPlaceOfKinds();
@@ -221,8 +226,12 @@ void LoadingTest::theRefusalBox() {
     QCOMPARE(boxes.size(), 1);
     QCOMPARE(boxes.first().buttons, QStringList{"OK"});
     QVERIFY(boxes.first().icon == QMessageBox::NoIcon);
-    QVERIFY(!boxes.first().iconPixmap.isEmpty());
-    QVERIFY(boxes.first().hasWindowIcon);
+    const QImage exclamation = QPixmap("://image/exclamation.png").toImage();
+    QVERIFY(!exclamation.isNull());
+    QCOMPARE(boxes.first().iconPixmap, exclamation);
+    const QImage module = QIcon("://image/module.png").pixmap(16).toImage();
+    QVERIFY(!module.isNull() && module != exclamation);
+    QCOMPARE(boxes.first().windowIcon.pixmap(16).toImage(), module);
     QVERIFY(boxes.first().isModal);
     QVERIFY(boxes.first().belongsToDialog);
 }
@@ -318,6 +327,82 @@ void LoadingTest::missingRatio() {
     bench.open(config, [&](Dialog& dialog) { QTEST(dialog.text("comboBoxTxLineRatio"), "shown"); });
     QVERIFY(bench.wasShown());
     QCOMPARE(bench.takeMessages(), QStringList());
+}
+
+void LoadingTest::aSlowReceiversUnknownRatioStaysUnknown_data() {
+    QTest::addColumn<QString>("device");
+    QTest::newRow("60k") << "RZ7X-60B";
+    QTest::newRow("15k") << "RZ7X-15A";
+}
+
+/// Setting the PLL again, which such a configuration needs, rebuilds the ratio box.
+void LoadingTest::aSlowReceiversUnknownRatioStaysUnknown() {
+    QFETCH(QString, device);
+    Bench bench(device);
+    ConfigMap config = accepted(bench, {});
+    config.insert("OPERATION_MODE", "RX Only");
+    config.insert("PLL_SELECTION", "QPLL0");
+    config.insert("TX_RATE", "0.5");
+    config.insert("TX_RATE_RATIO", "3x");
+    bench.open(config, [&](Dialog& dialog) {
+        QCOMPARE(dialog.combo("comboBoxTxLineRatio")->currentIndex(), -1);
+    });
+    QVERIFY(bench.wasShown());
+}
+
+void LoadingTest::anUnknownWidthShutsNoCoding() {
+    Bench bench("RZ7X-138");
+    ConfigMap config = accepted(bench, {{"comboBoxInternalDataWidth", "20"}});
+    QVERIFY(!config.isEmpty());
+    config.insert("INTERNAL_DATA_WIDTH", "12");
+    config.insert("ENABLE_ENCODING", true);
+    config.insert("ENABLE_DECODING", true);
+    bench.open(config, [&](Dialog& dialog) {
+        QCOMPARE(dialog.combo("comboBoxInternalDataWidth")->currentIndex(), -1);
+        for (const char* box : {"checkBoxEncoding", "checkBoxDecoding"}) {
+            QVERIFY2(dialog.isEnabled(box), box);
+            QVERIFY2(dialog.box(box)->isChecked(), box);
+        }
+    });
+    QVERIFY(bench.wasShown());
+}
+
+/// A rate that the field does not take is put back to the default, which needs no ratio.
+void LoadingTest::aRatePutBackTakesItsRatioAlong() {
+    for (const char* rate : {"0.123456789", "0.5 "}) {
+        Bench bench("RZ7X-60B");
+        ConfigMap config = accepted(bench, {});
+        config.insert("TX_RATE", rate);
+        config.insert("TX_RATE_RATIO", "10x");
+        const ConfigMap saved = bench.open(config, [&](Dialog& dialog) {
+            QCOMPARE(dialog.text("comboBoxTxLineRatio"), QString("10x"));
+            QVERIFY(dialog.click("ButtonCalculate"));
+            QCOMPARE(dialog.text("TXLineRate"), QString("1.25"));
+            QCOMPARE(dialog.text("comboBoxTxLineRatio"), QString("NA"));
+            QVERIFY(!dialog.isEnabled("comboBoxTxLineRatio"));
+            dialog.pressOk();
+        });
+        QCOMPARE(saved.value("TX_RATE"), QVariant("1.25"));
+        QCOMPARE(saved.value("TX_RATE_RATIO"), QVariant("NA"));
+    }
+}
+
+void LoadingTest::aHeldMultiplexerKeepsItsSource() {
+    Bench bench("RZ7X-60B");
+    const ConfigMap config = accepted(bench, {{"comboBoxMode", "Manual"},
+                                              {"comboBoxRefMux0Source", "Q0 REFIN0"},
+                                              {"ReferenceMux0Freq", "100"}});
+    QVERIFY(!config.isEmpty());
+    IPSERDESIP::Message other = holder({}, {}, 0.0, "Q0_REFCLK0", 156.25);
+    other.muxes.insert("Q0_MUX0", "Q0_REFCLK0");
+    bench.occupy("other", other);
+    bench.open(config, [&](Dialog& dialog) {
+        QCOMPARE(dialog.items("comboBoxRefMux0Source"), QStringList{"Q0 REFCLK0"});
+        QCOMPARE(dialog.text("comboBoxRefMux0Source"), QString("Q0 REFCLK0"));
+        QVERIFY(!dialog.isEnabled("comboBoxRefMux0Source"));
+        QCOMPARE(dialog.text("ReferenceMux0Freq"), QString("156.25"));
+    });
+    QVERIFY(bench.wasShown());
 }
 
 void LoadingTest::unknownTextsShowNothing_data() {
