@@ -31,8 +31,8 @@ ConfigMap customized::open(const ConfigMap& config) {
 }
 
 IPSERDESIP::Message* customized::resourceMessage(const ConfigMap& config) {
-    resolveDevice(config);
-    return new IPSERDESIP::Message(IPCUSTOMIZED::resourceMessage(config, deviceClass(), name()));
+    return new IPSERDESIP::Message(IPCUSTOMIZED::resourceMessage(
+        config, IPCUSTOMIZED::deviceClass(deviceFor(config).device()), name()));
 }
 
 bool customized::loadSpec() {
@@ -69,15 +69,10 @@ bool customized::isSupported(const DEV::DeviceArg& device) {
                                m_info.value(Info::Supported).toStringList());
 }
 
-void customized::resolveDevice(const ConfigMap& config) {
-    if (device().isNull()) {
-        setDevice(
-            Core::IdeCore::deviceDataBase().findDevice(config.value(Key::TargetDevice).toString()));
-    }
-}
-
-DeviceClass customized::deviceClass() const {
-    return IPCUSTOMIZED::deviceClass(device().device());
+DEV::DeviceArg customized::deviceFor(const ConfigMap& config) const {
+    return device().isNull() ? Core::IdeCore::deviceDataBase().findDevice(
+                                   config.value(Key::TargetDevice).toString())
+                             : device();
 }
 
 } // namespace IPCUSTOMIZED

@@ -35,9 +35,8 @@ private:
                         const QString& quadPrefix) const;
     bool writeRefClockFreqLines(const QStringList& names, const QStringList& frequencies,
                                 QStringList& script, QStringList& parameters) const;
-    /// Looks the configuration's device up where the model has none.
-    void resolveDevice(const ConfigMap& config);
-    DeviceClass deviceClass() const;
+    /// The model's device; where it has none, the configuration's.
+    DEV::DeviceArg deviceFor(const ConfigMap& config) const;
 
     ConfigMap m_config;
     QMap<QString, QVariant> m_info;

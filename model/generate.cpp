@@ -39,13 +39,13 @@ bool customized::writeRefClockFreqLines(const QStringList& names, const QStringL
 
 bool customized::generate(const ConfigMap& config, QStringList& script, const QString& /*reserved*/,
                           QStringList& options, QString& text, bool runNetlist) {
-    resolveDevice(config);
+    setDevice(deviceFor(config));
     if (config.isEmpty()) {
         return false;
     }
     m_config = config;
     const ConfigView view(m_config);
-    const DeviceClass device = deviceClass();
+    const DeviceClass device = deviceClass(this->device().device());
     m_laneLines = LaneLines(m_config, device);
 
     QStringList parameters;
