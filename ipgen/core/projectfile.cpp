@@ -7,42 +7,65 @@ namespace Ipgen {
 
 namespace {
 
-/// Empty: the document is a project.
-QString flawOf(const QVariantMap& document) {
-    const auto kindOf = [](const QVariantMap& map, const char* key) {
-        return map.value(QLatin1String(key)).userType();
+/// What keeps a document from being a project, and the key where it shows.
+struct Flaw {
+    QString reason; ///< empty: there is none
+    QStringList key;
+};
+
+/// Empty: the value under the key is of the kind, or absent where it may be.
+QString kindFlaw(const QVariantMap& map, const QString& key, QMetaType::Type kind, bool required) {
+    if (!map.contains(key)) {
+        return required ? QStringLiteral("the key \"%1\" is missing").arg(key) : QString();
+    }
+    if (map.value(key).userType() == kind) {
+        return {};
+    }
+    const QString name = kind == QMetaType::QString ? QStringLiteral("text")
+                         : kind == QMetaType::Int   ? QStringLiteral("whole number")
+                                                    : QStringLiteral("object");
+    return QStringLiteral("the key \"%1\" is no %2").arg(key, name);
+}
+
+Flaw flawOf(const QVariantMap& document) {
+    struct Rule {
+        QString key;
+        QMetaType::Type kind;
+        bool required;
     };
-    const auto optionalObject = [&](const QVariantMap& map, const char* key) {
-        return !map.contains(QLatin1String(key)) || kindOf(map, key) == QMetaType::QVariantMap;
-    };
-    if (kindOf(document, "format") != QMetaType::Int) {
-        return QStringLiteral("the key \"format\" is no number: this is no project file");
+    const QString format = QStringLiteral("format");
+    const QString instancesKey = QStringLiteral("instances");
+    for (const Rule& rule : {Rule{format, QMetaType::Int, true},
+                             Rule{QStringLiteral("device"), QMetaType::QString, true},
+                             Rule{QStringLiteral("data"), QMetaType::QVariantMap, false},
+                             Rule{instancesKey, QMetaType::QVariantMap, false}}) {
+        const QString reason = kindFlaw(document, rule.key, rule.kind, rule.required);
+        if (!reason.isEmpty()) {
+            return {reason, {rule.key}};
+        }
+        if (rule.key == format && document.value(format).toInt() != 1) {
+            return {QStringLiteral("the format is %1; this program reads format 1")
+                        .arg(document.value(format).toInt()),
+                    {format}};
+        }
     }
-    const int format = document.value(QStringLiteral("format")).toInt();
-    if (format != 1) {
-        return QStringLiteral("the format is %1; this program reads format 1").arg(format);
-    }
-    if (kindOf(document, "device") != QMetaType::QString) {
-        return QStringLiteral("the key \"device\" is no text");
-    }
-    if (!optionalObject(document, "data")) {
-        return QStringLiteral("the key \"data\" is no object");
-    }
-    if (!optionalObject(document, "instances")) {
-        return QStringLiteral("the key \"instances\" is no object");
-    }
-    const QVariantMap instances = document.value(QStringLiteral("instances")).toMap();
+    const QVariantMap instances = document.value(instancesKey).toMap();
     for (auto it = instances.begin(); it != instances.end(); ++it) {
-        const QVariantMap instance = it.value().toMap();
         if (it.value().userType() != QMetaType::QVariantMap) {
-            return QStringLiteral("the instance \"%1\" is no object").arg(it.key());
+            return {QStringLiteral("the instance \"%1\" is no object").arg(it.key()),
+                    {instancesKey, it.key()}};
         }
-        if (kindOf(instance, "ip") != QMetaType::QString) {
-            return QStringLiteral("the instance \"%1\": the key \"ip\" is no text").arg(it.key());
-        }
-        if (kindOf(instance, "config") != QMetaType::QVariantMap) {
-            return QStringLiteral("the instance \"%1\": the key \"config\" is no object")
-                .arg(it.key());
+        const QVariantMap instance = it.value().toMap();
+        for (const Rule& rule : {Rule{QStringLiteral("ip"), QMetaType::QString, true},
+                                 Rule{QStringLiteral("config"), QMetaType::QVariantMap, true}}) {
+            const QString reason = kindFlaw(instance, rule.key, rule.kind, rule.required);
+            if (!reason.isEmpty()) {
+                QStringList key{instancesKey, it.key()};
+                if (instance.contains(rule.key)) {
+                    key.append(rule.key);
+                }
+                return {QStringLiteral("the instance \"%1\": %2").arg(it.key(), reason), key};
+            }
         }
     }
     return {};
@@ -95,9 +118,10 @@ Status readProjectFile(const QString& path, QVariantMap* document) {
         return {Exit::BadInput, path, QStringLiteral("a project file is a JSON object")};
     }
     const QVariantMap map = value.toMap();
-    const QString flaw = flawOf(map);
-    if (!flaw.isEmpty()) {
-        return {Exit::BadInput, path, flaw};
+    const Flaw flaw = flawOf(map);
+    if (!flaw.reason.isEmpty()) {
+        const Utils::JsonError place = Utils::errorAtKey(bytes, flaw.key, flaw.reason);
+        return {Exit::BadInput, path, place.isNull() ? flaw.reason : place.text()};
     }
     *document = map;
     return {};

@@ -83,6 +83,12 @@ public:
         : m_text(text)
         , m_offset(offset) {}
 
+    /// Ends the reading at this key, with the reason as its error.
+    void stopAt(const QStringList& wanted, const QString& reason) {
+        m_wanted = wanted;
+        m_wantedReason = reason;
+    }
+
     const QVariant& value() const { return m_value; }
     const JsonError& error() const { return m_error; }
 
@@ -140,7 +146,7 @@ public:
             return fail(startOfKey(),
                         QStringLiteral("the key \"%1\" is given twice").arg(frame.key));
         }
-        return true;
+        return m_wanted.isEmpty() || path() != m_wanted || fail(startOfKey(), m_wantedReason);
     }
     bool parse_error(std::size_t position, const std::string& /*token*/,
                      const nlohmann::json::exception& what) override {
@@ -159,6 +165,15 @@ private:
 
     static QString fromUtf8(const std::string& text) {
         return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+    }
+
+    /// The keys from the outermost object to the one being read; a list has an empty one.
+    QStringList path() const {
+        QStringList keys;
+        for (const Frame& frame : m_frames) {
+            keys.append(frame.key);
+        }
+        return keys;
     }
 
     bool push(bool isObject) {
@@ -216,7 +231,15 @@ private:
     QVariant m_value;
     JsonError m_error;
     std::vector<Frame> m_frames;
+    QStringList m_wanted;
+    QString m_wantedReason;
 };
+
+bool read(const QByteArray& text, Builder* builder, int* offset) {
+    const CountingIterator first(text.constData(), offset);
+    const CountingIterator last(text.constData() + text.size(), offset);
+    return nlohmann::json::sax_parse(first, last, builder);
+}
 
 } // namespace
 
@@ -235,15 +258,21 @@ bool parseJson(const QByteArray& text, QVariant* value, JsonError* error) {
     }
     int offset = 0;
     Builder builder(text, &offset);
-    const CountingIterator first(text.constData(), &offset);
-    const CountingIterator last(text.constData() + text.size(), &offset);
-    if (!nlohmann::json::sax_parse(first, last, &builder)) {
+    if (!read(text, &builder, &offset)) {
         *error = builder.error();
         return false;
     }
     *value = builder.value();
     *error = JsonError();
     return true;
+}
+
+JsonError errorAtKey(const QByteArray& text, const QStringList& path, const QString& reason) {
+    int offset = 0;
+    Builder builder(text, &offset);
+    builder.stopAt(path, reason);
+    read(text, &builder, &offset);
+    return builder.error();
 }
 
 } // namespace Utils

@@ -353,17 +353,25 @@ private Q_SLOTS:
         row("doubled key", "{\"format\": 1,\n \"device\": \"a\",\n \"device\": \"b\"}",
             "line 3, column 2: the key \"device\" is given twice");
         row("a list", "[]", "a project file is a JSON object");
-        row("no format", "{\"device\":\"x\"}", "the key \"format\" is no number");
+        row("no format", "{\"device\":\"x\"}", "the key \"format\" is missing");
+        row("another format", "{\n \"format\":1.0,\"device\":\"x\"}",
+            "line 2, column 2: the key \"format\" is no whole number");
         row("later format", "{\"format\":2,\"device\":\"x\"}",
-            "the format is 2; this program reads format 1");
-        row("no device", "{\"format\":1}", "the key \"device\" is no text");
+            "line 1, column 2: the format is 2; this program reads format 1");
+        row("no device", "{\"format\":1}", "the key \"device\" is missing");
+        row("device", "{\"format\":1,\n\n  \"device\":5}",
+            "line 3, column 3: the key \"device\" is no text");
         row("instances", "{\"format\":1,\"device\":\"x\",\"instances\":[]}",
-            "the key \"instances\" is no object");
+            "line 1, column 26: the key \"instances\" is no object");
         row("instance", "{\"format\":1,\"device\":\"x\",\"instances\":{\"a\":1}}",
-            "the instance \"a\" is no object");
-        row("no config", "{\"format\":1,\"device\":\"x\",\"instances\":{\"a\":{\"ip\":\"t\"}}}",
-            "the instance \"a\": the key \"config\" is no object");
-        row("data", "{\"format\":1,\"device\":\"x\",\"data\":1}", "the key \"data\" is no object");
+            "line 1, column 39: the instance \"a\" is no object");
+        row("instance's IP",
+            "{\"format\":1,\"device\":\"x\",\"ip\":1,\"instances\":{\"a\":{\n\"ip\":[]}}}",
+            "line 2, column 1: the instance \"a\": the key \"ip\" is no text");
+        row("no config", "{\"format\":1,\"device\":\"x\",\"instances\":{\n\"a\":{\"ip\":\"t\"}}}",
+            "line 2, column 1: the instance \"a\": the key \"config\" is missing");
+        row("data", "{\"format\":1,\"device\":\"x\",\"data\":1}",
+            "line 1, column 26: the key \"data\" is no object");
     }
     void damagedProjectsAreNamedAndLeftAlone() {
         QFETCH(QByteArray, text);

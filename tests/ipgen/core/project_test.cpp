@@ -216,28 +216,29 @@ private Q_SLOTS:
             rest("\"instances\": {\"a\": {\"ip\": \"t\", \"config\": {\"k\": 1,\n\"k\": 1}}}"),
             "line 2, column 1: the key \"k\" is given twice");
         row("a list", "[]", "a project file is a JSON object");
-        row("no format", "{\"device\": \"d\"}", "the key \"format\" is no number");
+        row("no format", "{\"device\": \"d\"}", "the key \"format\" is missing");
         row("format 0", "{\"format\": 0, \"device\": \"d\"}",
-            "the format is 0; this program reads format 1");
+            "line 1, column 2: the format is 0; this program reads format 1");
         row("format 2", "{\"format\": 2, \"device\": \"d\"}",
-            "the format is 2; this program reads format 1");
+            "line 1, column 2: the format is 2; this program reads format 1");
         row("a text for the format", "{\"format\": \"1\", \"device\": \"d\"}",
-            "the key \"format\" is no number");
-        row("no device", "{\"format\": 1}", "the key \"device\" is no text");
+            "line 1, column 2: the key \"format\" is no whole number");
+        row("no device", "{\"format\": 1}", "the key \"device\" is missing");
         row("a number for the device", "{\"format\": 1, \"device\": 7}",
-            "the key \"device\" is no text");
+            "line 1, column 15: the key \"device\" is no text");
         row("a list for the instances", rest("\"instances\": []"),
-            "the key \"instances\" is no object");
+            "line 1, column 30: the key \"instances\" is no object");
         row("null for the instances", rest("\"instances\": null"),
-            "the key \"instances\" is no object");
-        row("a text for the data", rest("\"data\": \"\""), "the key \"data\" is no object");
+            "line 1, column 30: the key \"instances\" is no object");
+        row("a text for the data", rest("\"data\": \"\""),
+            "line 1, column 30: the key \"data\" is no object");
         row("a text for an instance", rest("\"instances\": {\"a\": \"x\"}"),
-            "the instance \"a\" is no object");
+            "line 1, column 44: the instance \"a\" is no object");
         row("no IP", rest("\"instances\": {\"a\": {\"config\": {}}}"),
-            "the instance \"a\": the key \"ip\" is no text");
+            "line 1, column 44: the instance \"a\": the key \"ip\" is missing");
         row("a list for the configuration",
             rest("\"instances\": {\"a\": {\"ip\": \"t\", \"config\": []}}"),
-            "the instance \"a\": the key \"config\" is no object");
+            "line 1, column 61: the instance \"a\": the key \"config\" is no object");
     }
     void refusedFiles() {
         QFETCH(QByteArray, text);

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 namespace Utils {
@@ -32,6 +33,12 @@ constexpr int jsonDepthLimit = 100;
 /// Damage is: wrong syntax, bytes that are not UTF-8, a key given twice in one object, an integer
 /// wider than 64 bits, more levels than jsonDepthLimit. Then the result is false and *error set.
 HOST_UTILS_EXPORT bool parseJson(const QByteArray& text, QVariant* value, JsonError* error);
+
+/// Where a key stands, as the place of an error: for a flaw that the reader of a parsed text finds.
+/// @param text  one that parseJson() takes
+/// @param path  the keys from the outermost object in; without such a key the error is null
+HOST_UTILS_EXPORT JsonError errorAtKey(const QByteArray& text, const QStringList& path,
+                                       const QString& reason);
 
 enum class JsonForm {
     Indented, ///< two blanks a level, an entry a line, ended by a line feed
