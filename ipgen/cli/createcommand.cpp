@@ -105,7 +105,9 @@ private:
             if (!why.isEmpty()) {
                 context.tell(name(), why);
             }
-            return why.isEmpty() ? Exit::Done : Exit::Refused;
+            // What cannot be written is the one kind of failure that libraries report by path.
+            const Exit exit = report.complaints.isEmpty() ? Exit::Refused : Exit::BadOutput;
+            return why.isEmpty() ? Exit::Done : exit;
         }
         project.setInstance(name(), {entry.id, report.config});
         project.takeModelData();

@@ -6,17 +6,16 @@ namespace Ipgen {
 
 namespace {
 
-/// ": " and what the boxes of the session said last.
+/// ": " and what the user was told: by the libraries, or by the box that came up last.
 QString lastWords(const Session::Report& report) {
-    QString words;
-    if (!report.messages.isEmpty()) {
-        const Session::Report::Message& last = report.messages.last();
-        words = QLatin1String(": ") + last.text;
+    QStringList words = report.complaints;
+    if (report.messages.size() > report.saidBefore) {
+        words.append(report.messages.last().text);
     }
-    for (const QString& sentence : report.details) {
-        words += QLatin1String("; ") + sentence;
+    if (report.complaints.isEmpty()) {
+        words += report.details;
     }
-    return words;
+    return words.isEmpty() ? QString() : QLatin1String(": ") + words.join(QLatin1String("; "));
 }
 
 } // namespace

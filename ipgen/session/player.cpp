@@ -100,6 +100,7 @@ void Player::tick() {
 void Player::perform(const Step& step) {
     m_current = m_next;
     const int boxes = m_report.messages.size();
+    const int errors = m_errors.entries().size();
     QString why;
     switch (step.kind) {
     case Step::Kind::Set:
@@ -130,6 +131,8 @@ void Player::perform(const Step& step) {
     const bool turnedDown = step.kind == Step::Kind::Accept && !m_dialogAccepted;
     if (step.kind == Step::Kind::Accept || step.kind == Step::Kind::Cancel) {
         m_report.turnedDown = turnedDown;
+        m_report.complaints = complaintsSince(errors);
+        m_report.saidBefore = boxes;
     }
     if (turnedDown || m_report.messages.size() > boxes) {
         gatherDetails();
@@ -232,8 +235,16 @@ void Player::watchTime() {
     QCoreApplication::exit(); // ends every event loop that is running
 }
 
+QStringList Player::complaintsSince(int errors) const {
+    QStringList complaints;
+    for (const ErrorCollector::Entry& entry : m_errors.entries().mid(errors)) {
+        complaints.append(entry.what + QStringLiteral(": ") + entry.why);
+    }
+    return complaints;
+}
+
 void Player::gatherDetails() {
-    const QStringList sentences = IPSERDESIP::serdes::instance()->details();
+    const QStringList sentences = complaintsSince(0) + IPSERDESIP::serdes::instance()->details();
     for (const QString& sentence : sentences) {
         if (!m_report.details.contains(sentence)) {
             m_report.details.append(sentence);
@@ -242,6 +253,12 @@ void Player::gatherDetails() {
 }
 
 void Player::conclude(const IPSERDESIP::ConfigMap& config) {
+    if (!m_errors.entries().isEmpty()) {
+        gatherDetails();
+    }
+    if (!m_shown) {
+        m_report.complaints = complaintsSince(0);
+    }
     if (m_report.error.isEmpty() && m_dialogAccepted && config.isEmpty()) {
         m_report.error = QStringLiteral("the IP accepted the dialog and gave no configuration");
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ipgen/core/errorcollector.h"
 #include "ipgen/session/boxkeeper.h"
 #include "ipgen/session/dialogview.h"
 #include "ipgen/session/report.h"
@@ -47,9 +48,12 @@ private:
     void refuse(int step, bool tries, const QString& why);
     void leave();
     void watchTime();
+    /// "WHAT: WHY" of what libraries have reported after the first `errors`.
+    QStringList complaintsSince(int errors) const;
     void gatherDetails();
     void conclude(const IPSERDESIP::ConfigMap& config);
 
+    const ErrorCollector m_errors; ///< nobody looks at the program's own messages meanwhile
     Script m_script;
     Options m_options;
     Report m_report;

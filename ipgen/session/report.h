@@ -42,10 +42,12 @@ struct Report {
     QString module;                              ///< the module name in the last snapshot
     QMap<QString, QList<Utils::PinFigure>> pins; ///< the figures as the frame has them
     QVariantMap figures;                         ///< label to list of pins
-    QStringList details;          ///< what the resource model had to say about failures, each once
+    QStringList details;          ///< what the host had to say about failures, each once
     IPSERDESIP::ConfigMap config; ///< when accepted
 
     bool turnedDown = false; ///< the last thing asked of the dialog was OK, and it stayed open
+    QStringList complaints;  ///< what libraries reported during that, or when it was to open
+    int saidBefore = 0;      ///< how many messages came before that
 
     bool accepted() const { return result == Result::Accepted; }
     /// "accepted", "cancelled", "refused" or "failed".

@@ -1305,5 +1305,9 @@ Konflikt: %1</translation>
         <source>remove instances (%1)</source>
         <translation>Instanzen entfernen (%1)</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
 </context>
 </TS>

@@ -1,22 +1,25 @@
 #include "ipgen/window/workbench.h"
 
-#include "ipgen/core/errorcollector.h"
 #include "ipgen/core/installation.h"
 #include "ipgen/window/filehistory.h"
 #include "ipgen/window/undo.h"
 
+#include <core/viewmanager.h>
 #include <serdesip/serdes.h>
 
+#include <QApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QMessageBox>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <exception>
 #include <functional>
+#include <utility>
 
 namespace Window {
 
@@ -25,10 +28,42 @@ using Ipgen::Status;
 
 namespace {
 
-/// An IP's dialog: its failures become a status, and the library's complaints its reasons.
+/// While it lives, what libraries report to the user is shown over the dialog that is open, once
+/// the action that met it is done; what comes when none is open is kept.
+class ErrorBoxes {
+public:
+    ErrorBoxes()
+        : m_former(Core::ViewManager::setErrorSink(
+              [this](const QString& what, const QString& why) { take(what, why); })) {}
+    ~ErrorBoxes() { Core::ViewManager::setErrorSink(std::move(m_former)); }
+    ErrorBoxes(const ErrorBoxes&) = delete;
+    ErrorBoxes& operator=(const ErrorBoxes&) = delete;
+
+    /// What was not shown.
+    QString rest() const { return m_lines.join(QStringLiteral("; ")); }
+
+private:
+    void take(const QString& what, const QString& why) {
+        m_lines.append(what + QStringLiteral(": ") + why);
+        if (QApplication::activeModalWidget() != nullptr && m_lines.size() == 1) {
+            QTimer::singleShot(0, &m_context, [this] {
+                const QStringList lines = std::exchange(m_lines, {});
+                QMessageBox::warning(QApplication::activeModalWidget(), Workbench::tr("Error"),
+                                     lines.join(QLatin1Char('\n')));
+            });
+        }
+    }
+
+    QStringList m_lines;
+    QObject m_context; ///< for calls to come
+    Core::ViewManager::ErrorSink m_former;
+};
+
+/// An IP's dialog: its failures become a status, and the library's complaints its reasons. What the
+/// user has accepted counts, whatever went wrong before.
 Status runDialog(const QString& name, const std::function<IPSERDESIP::ConfigMap()>& dialog,
                  IPSERDESIP::ConfigMap* config) {
-    const Ipgen::ErrorCollector errors;
+    const ErrorBoxes errors;
     try {
         *config = dialog();
     } catch (const std::exception& fault) {
@@ -36,8 +71,8 @@ Status runDialog(const QString& name, const std::function<IPSERDESIP::ConfigMap(
                 Workbench::tr("the IP threw an exception: %1")
                     .arg(QString::fromLocal8Bit(fault.what()))};
     }
-    if (!errors.entries().isEmpty()) {
-        return {Exit::Refused, name, errors.suffix().mid(2)};
+    if (config->isEmpty() && !errors.rest().isEmpty()) {
+        return {Exit::Refused, name, errors.rest()};
     }
     return {};
 }

@@ -3,6 +3,7 @@ for one action, with the dialog open afterwards and nothing of the project chang
 
 import os
 import re
+import shutil
 
 from support import ACCEPT, CALCULATE, CANCEL, EndToEnd, answer, lanes, main, put, state
 
@@ -340,6 +341,53 @@ class Names(BoxTest):
                           'hold a module only once.')):
             with self.subTest(text):
                 self.assert_name("moduleName", text, ("Warning", why))
+
+
+class OutputFolders(BoxTest):
+    def setUp(self):
+        super().setUp()
+        self.new_project("60k")
+
+    def test_calculate_writes_nothing_under_a_refused_file_name(self):
+        """Wherever the name would lead: to another project, to a folder beside, to one below."""
+        neighbour = self.path("neighbour")
+        self.ipgen("new", neighbour, "--device", "RZ7X-60B")
+        self.ipgen("create", neighbour, "victim", "--set", "tab1/q0_l0=true")
+        for folder in ("beside", "beside/below"):
+            os.makedirs(os.path.join(self.project, "transceiver", folder, "temp", "CUSTOMIZED"))
+        os.makedirs(os.path.join(self.project, "temp", "CUSTOMIZED"))
+        os.makedirs(os.path.join(self.project, "transceiver", "temp", "CUSTOMIZED"))
+
+        def files():
+            return {os.path.join(folder, name): open(os.path.join(folder, name), "rb").read()
+                    for folder, _, names in os.walk(self.folder) for name in names}
+
+        before = files()
+        for name in ("../../neighbour/transceiver/victim", "..", ".", "beside/below", "new/one",
+                     "new\\\\one", self.path("absolute"), " "):
+            with self.subTest(name):
+                report = self.session("create", "link1", lanes(*QUAD0) + [
+                    put(TX, "5"), put("tab1/RXLineRate", "5"), put("frame/fileName", name),
+                    CALCULATE, CANCEL])
+                self.assertNotIn(SUCCEED, boxes(report))
+                self.assertRegex(" ".join(report["details"]), "The file name")
+                self.assertEqual(files(), before)
+
+    def test_an_output_folder_that_cannot_be_made(self):
+        blocked = os.path.join(self.project, "transceiver")
+        shutil.rmtree(blocked, ignore_errors=True)
+        with open(blocked, "w") as file:
+            file.write("in the way")
+        why = "%s: Customized PHY: cannot make the folder: File exists" % blocked
+        before = self.project_bytes()
+        report = self.session("create", "link1", lanes("q0_l0") + [CALCULATE, ACCEPT], code=4)
+        self.assertEqual(report["run"].err, "ipgen: link1: not accepted: %s\n" % why)
+        self.assertEqual(report["details"], [why])
+        self.assertEqual(self.project_bytes(), before)
+        # The failure counts against the OK that met it, not against a later one.
+        os.remove(blocked)
+        report = self.session("create", "link1", lanes("q0_l0") + [ACCEPT])
+        self.assertEqual(report["result"], "accepted")
 
 
 class BiasQuestion(BoxTest):

@@ -98,14 +98,16 @@ OutputLog outputLog() {
     return logged();
 }
 
+QString outputFlaw(const QString& path) {
+    const QString flaw = flawOf(path);
+    return flaw.isEmpty() && !isInside(path) ? outside() : flaw;
+}
+
 bool makeDirs(const QString& folder, const QString& ipName) {
     const QString prefix = ipName.isEmpty() ? QString() : ipName + QStringLiteral(": ");
-    const QString flaw = flawOf(folder);
+    const QString flaw = outputFlaw(folder);
     if (!flaw.isEmpty()) {
         return refuse(folder, prefix + flaw);
-    }
-    if (!isInside(folder)) {
-        return refuse(folder, prefix + outside());
     }
     for (int end = folder.indexOf(QLatin1Char('/'), 1);;
          end = folder.indexOf(QLatin1Char('/'), end + 1)) {

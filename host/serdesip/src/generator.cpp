@@ -5,6 +5,7 @@
 
 #include "serdesip/serdes.h"
 
+#include <ipcore/ipcore.h>
 #include <utils/filereplace.h>
 
 namespace IPSERDESIP {
@@ -84,6 +85,11 @@ bool generator::generate(const QStringList& script, const QString& outputFile,
         for (const QString& detail : solver.details()) {
             model->addDetail(detail);
         }
+        return finish(false);
+    }
+    // The caller may have found the folder made, and so has not asked for it.
+    if (const QString flaw = IPCore::outputFlaw(outputFile); !flaw.isEmpty()) {
+        m_errors.append(QStringLiteral("%1: %2").arg(outputFile, flaw));
         return finish(false);
     }
     const QByteArray text = resolvedText(parsed, *device, solver.clocks());

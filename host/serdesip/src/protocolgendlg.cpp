@@ -9,6 +9,7 @@
 #include "serdesip/serdes.h"
 
 #include <core/idecore.h>
+#include <core/viewmanager.h>
 
 #include <QAbstractSpinBox>
 #include <QAction>
@@ -69,6 +70,11 @@ QString otherInstance(Predicate matches) {
         }
     }
     return {};
+}
+
+/// Where an instance of this file name writes to.
+QString folderOf(const QString& fileName) {
+    return serdes::instance()->workingDir() + QLatin1Char('/') + fileName;
 }
 
 /// What a box tells the user, in one line; empty for a question, and for other windows.
@@ -185,7 +191,11 @@ void protocolGenDlg::uiSetLanguageIndex(int index) {
 }
 
 QString protocolGenDlg::createPath() const {
-    return serdes::instance()->workingDir() + QLatin1Char('/') + fileName();
+    const QStringList faults = fileNameFaults(fileName());
+    if (!faults.isEmpty()) {
+        Core::ViewManager::reportError(fileName(), faults.join(QLatin1Char(' ')));
+    }
+    return folderOf(faults.isEmpty() ? fileName() : QString());
 }
 
 QList<Utils::PinFigure> protocolGenDlg::figurePins() const {
@@ -224,10 +234,10 @@ void protocolGenDlg::uiSetFigurePins(const QList<Utils::PinFigure>& pins) {
 void protocolGenDlg::fileNameConnectCreatIn() {
     if (!d->pathConnected) {
         connect(d->frame.fileName, &QLineEdit::textChanged, this,
-                [this] { d->showPath(createPath()); });
+                [this](const QString& name) { d->showPath(folderOf(name)); });
         d->pathConnected = true;
     }
-    d->showPath(createPath());
+    d->showPath(folderOf(fileName()));
 }
 
 QStringList protocolGenDlg::checkFileOptions() {

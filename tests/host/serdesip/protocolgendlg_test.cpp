@@ -5,6 +5,8 @@
 #include "serdesip/serdes.h"
 
 #include <core/idecore.h>
+#include <core/viewmanager.h>
+#include <ipcore/ipcore.h>
 
 #include <QAction>
 #include <QApplication>
@@ -121,6 +123,7 @@ private Q_SLOTS:
     void openingRefused();
     void toolAndLanguage();
     void createPathFollowsTheFileName();
+    void createPathRefusesFaultyNames();
     void fileNameFaults_data();
     void fileNameFaults();
     void everyFaultIsNamed();
@@ -246,6 +249,24 @@ void ProtocolGenDlgTest::createPathFollowsTheFileName() {
     QCOMPARE(path->text(), QStringLiteral("/p/transceiver/other"));
     QCOMPARE(dialog.createPath(), QStringLiteral("/p/transceiver/other"));
     QVERIFY(path->isReadOnly());
+}
+
+void ProtocolGenDlgTest::createPathRefusesFaultyNames() {
+    TestDialog dialog;
+    dialog.setCreating(QStringLiteral("link0"), kBoard);
+    QStringList told;
+    const auto former =
+        Core::ViewManager::setErrorSink([&told](const QString& what, const QString& why) {
+            told.append(what + QLatin1Char('|') + why);
+        });
+    dialog.setFile(QStringLiteral("../x"));
+    QVERIFY2(told.isEmpty(), "typing alone refuses nothing");
+    QCOMPARE(dialog.createPath(), QStringLiteral("/p/transceiver/"));
+    Core::ViewManager::setErrorSink(former);
+    QCOMPARE(told.size(), 1);
+    QVERIFY(told.first().startsWith(QStringLiteral("../x|The file name \"../x\" ")));
+    // What is put behind it is no path that the host writes to.
+    QVERIFY(!IPCore::outputFlaw(dialog.createPath() + QStringLiteral("/temp/X")).isEmpty());
 }
 
 void ProtocolGenDlgTest::fileNameFaults_data() {

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void everyFocusableWidgetHasAName();
     void everyActionHasTextKeyAndTip();
     void mainPathByKeyboard();
+    void acceptedCountsWhateverFailedBefore();
     void sameBytesAsTheCommand();
     void statesFollowTheFiles();
     void removeAndUndo();
@@ -242,6 +243,42 @@ void MainWindowTest::mainPathByKeyboard() {
     const QString name = m_window->workbench()->rows().first().name;
     QTRY_VERIFY2(m_window->workbench()->row(name)->state == State::Generated,
                  qPrintable(noticeText()));
+}
+
+/// What fails while the dialog is open is told at once, and costs nothing that is accepted later.
+void MainWindowTest::acceptedCountsWhateverFailedBefore() {
+    QVERIFY(m_window->workbench()->openProject(example(0)).ok());
+    QStringList told;
+    QTimer boxes;
+    connect(&boxes, &QTimer::timeout, [&told] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr) {
+            told.append(box->text());
+            box->button(QMessageBox::Yes) != nullptr ? box->button(QMessageBox::Yes)->click()
+                                                     : box->accept();
+        }
+    });
+    whenShown<IPSERDESIP::protocolGenDlg>([](IPSERDESIP::protocolGenDlg* ip) {
+        ip->findChild<QAbstractButton*>(QStringLiteral("q0_l0"))->click();
+        auto* fileName = ip->findChild<QLineEdit*>(QStringLiteral("fileName"));
+        fileName->setText(QStringLiteral("../x"));
+        ip->findChild<QAbstractButton*>(QStringLiteral("ButtonCalculate"))->click();
+        QTest::qWait(200); // the box comes up once the click is done
+        fileName->setText(QStringLiteral("good"));
+        ip->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        if (ip->isVisible()) {
+            ip->reject();
+        }
+    });
+    boxes.start(20);
+    bool accepted = false;
+    const Ipgen::Status status = m_window->workbench()->createInstance(
+        QStringLiteral("link0"), QStringLiteral("customized"), &accepted);
+    QVERIFY2(status.ok(), qPrintable(status.text()));
+    QVERIFY(accepted);
+    QVERIFY(m_window->workbench()->project().hasInstance(QStringLiteral("link0")));
+    QVERIFY2(told.size() >= 1 && told.first().contains(QStringLiteral("\"../x\"")),
+             qPrintable(told.join(QStringLiteral(" | "))));
 }
 
 void MainWindowTest::sameBytesAsTheCommand() {

@@ -31,8 +31,11 @@ HOST_IPCORE_EXPORT bool isSupported(const DEV::DeviceArg& device, const QStringL
 HOST_IPCORE_EXPORT void setOutputRoot(const QString& folder);
 HOST_IPCORE_EXPORT QString outputRoot();
 
-/// Makes a folder and those above it. Refuses a path with an empty, "." or ".." component and
-/// one outside outputRoot(). A failure is reported to the user under the IP's name.
+/// Why makeDirs() refuses a path before it touches anything: an empty, "." or ".." component, or a
+/// place outside outputRoot(). Empty: it does not.
+HOST_IPCORE_EXPORT QString outputFlaw(const QString& path);
+
+/// Makes a folder and those above it, unless outputFlaw() speaks against it. A failure is reported to the user under the IP's name.
 HOST_IPCORE_EXPORT bool makeDirs(const QString& folder, const QString& ipName);
 
 /// Replaces a text file by these lines (UTF-8, each ended by one line feed), whole or not at

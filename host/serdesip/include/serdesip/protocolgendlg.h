@@ -39,8 +39,9 @@ public:
     void uiSetSynthesisTool(const QString& tool);
     int uiLanguageIndex() const;
     void uiSetLanguageIndex(int index);
-    /// The folder that the instance's output goes to: the transceiver working directory, then the
-    /// file name.
+    /// The folder that the instance's output goes to: the transceiver working directory, "/", the
+    /// file name. A file name that checkFileOptions() speaks against is reported to the user and
+    /// left out; IPCore::makeDirs() and generator::generate() refuse what is then built on it.
     QString createPath() const;
 
     /// The pins that the figure shows.
