@@ -2,6 +2,7 @@
 
 #include "harness.h"
 
+#include <core/viewmanager.h>
 #include <serdesip/protocolgendlg.h>
 #include <serdesip/serdes.h>
 
@@ -86,6 +87,14 @@ private Q_SLOTS:
     void biasQuestion_data();
     void biasQuestion();
     void unfinishedTextIsFinishedFirst();
+    void unfinishedMuxFrequencyIsFinishedFirst_data() { addClasses(); }
+    void unfinishedMuxFrequencyIsFinishedFirst();
+    void unfinishedMetaFrameIsFinishedFirst();
+    void sourcesAreCheckedBeforePins();
+    void aHeldLaneIsTheGeneratorsToRefuse_data() { addClasses(); }
+    void aHeldLaneIsTheGeneratorsToRefuse();
+    void theReceiversRouteCounts();
+    void aFolderIsMadeUnderTheIpsName();
     void otherSourcesDoNotMatter();
     void receiveOnlySucceeds_data();
     void receiveOnlySucceeds();
@@ -462,6 +471,112 @@ void CalculateTest::unfinishedTextIsFinishedFirst() {
         QCOMPARE(bench.takeMessages(), QStringList{succeed});
     });
     QVERIFY(bench.wasShown());
+}
+
+void CalculateTest::unfinishedMuxFrequencyIsFinishedFirst() {
+    QFETCH(QString, device);
+    Bench bench(device);
+    bench.create([&](Dialog& dialog) {
+        selectQuad0(dialog);
+        QVERIFY(dialog.choose("comboBoxMode", "Manual"));
+        QVERIFY(dialog.choose("comboBoxRefMux0Source", "Q0 REFCLK0"));
+        dialog.edit("ReferenceMux0Freq")->setText("12.");
+        QVERIFY(dialog.click("ButtonCalculate"));
+        QCOMPARE(dialog.text("ReferenceMux0Freq"), QString("125"));
+        QCOMPARE(bench.takeMessages(), QStringList{succeed});
+    });
+    QVERIFY(bench.wasShown());
+}
+
+void CalculateTest::unfinishedMetaFrameIsFinishedFirst() {
+    Bench bench("RZ7X-60B");
+    bench.create([&](Dialog& dialog) {
+        selectQuad0(dialog);
+        QVERIFY(dialog.choose("comboBoxRXInternalDataWidth", "16"));
+        QVERIFY(dialog.choose("comboBoxRXExternalDataRatio", "1:4"));
+        QVERIFY(dialog.choose("comboBoxRxDecoding", "64B67B"));
+        QVERIFY(dialog.isEnabled("lineEditRxInterMetaFrameLength"));
+        dialog.edit("lineEditRxInterMetaFrameLength")->setText("4"); // one too short
+        QVERIFY(dialog.click("ButtonCalculate"));
+        QCOMPARE(dialog.text("lineEditRxInterMetaFrameLength"), QString("32"));
+    });
+    QVERIFY(bench.wasShown());
+}
+
+void CalculateTest::sourcesAreCheckedBeforePins() {
+    Bench bench("RZ7X-60B");
+    bench.occupy("other", user("Q0_REFCLK0", 0.0)); // in use, at no frequency that fits
+    bench.create([&](Dialog& dialog) {
+        selectQuad0(dialog);
+        QVERIFY(dialog.choose("comboBoxMode", "Manual"));
+        QVERIFY(dialog.choose("comboBoxRefMux0Source", "Q0 REFCLK0"));
+        QVERIFY(dialog.choose("CombBoxRxRefSource", "REFMUX1"));
+        QVERIFY(dialog.click("ButtonCalculate"));
+        QCOMPARE(bench.takeMessages(), QStringList{::sourceError});
+        QVERIFY(dialog.choose("CombBoxRxRefSource", "REFMUX0"));
+        QVERIFY(dialog.click("ButtonCalculate"));
+        QCOMPARE(bench.takeMessages(), QStringList{pinMessage});
+    });
+    QVERIFY(bench.wasShown());
+}
+
+/// Whether the routes can be held does not count: the generator has the last word, in its words.
+void CalculateTest::aHeldLaneIsTheGeneratorsToRefuse() {
+    QFETCH(QString, device);
+    Bench bench(device);
+    bench.create([&](Dialog& dialog) {
+        selectQuad0(dialog);
+        bench.occupy("other", holder({"Q0 Lane0"}));
+        QVERIFY(!calculate(dialog, true));
+        const QStringList messages = bench.takeMessages();
+        QCOMPARE(messages.size(), 1);
+        QVERIFY2(messages.first().startsWith("Failure: line ") &&
+                     messages.first().contains("Q0 Lane0 is held by other"),
+                 qPrintable(messages.first()));
+    });
+    QVERIFY(bench.wasShown());
+}
+
+/// The PLL's clock gets through to quad 1; the receivers' is another, and is held off there.
+void CalculateTest::theReceiversRouteCounts() {
+    Bench bench("RZ7X-138");
+    IPSERDESIP::Message other = user("Q1_REFCLK0", 125);
+    other.muxes.insert("Q1_MUX1", "Q1_REFCLK0");
+    bench.occupy("other", other);
+    bench.create([&](Dialog& dialog) {
+        selectQuad0(dialog);
+        for (const char* lane : {"q1_l0", "q1_l1", "q1_l2", "q1_l3"}) {
+            QVERIFY(dialog.check(lane, true));
+        }
+        QVERIFY(dialog.choose("comboBoxMode", "Manual"));
+        QVERIFY(dialog.choose("comboBoxRefMux0Source", "Q0 REFCLK0"));
+        QVERIFY(dialog.choose("comboBoxRefMux1Source", "Q0 REFCLK1"));
+        QVERIFY(dialog.choose("CombBoxPLLRefSource", "REFMUX0"));
+        QVERIFY(dialog.choose("CombBoxRxRefSource", "REFMUX0"));
+        QVERIFY(dialog.click("ButtonCalculate"));
+        QCOMPARE(bench.takeMessages(), QStringList{succeed});
+        QVERIFY(dialog.choose("CombBoxRxRefSource", "REFMUX1"));
+        QVERIFY(dialog.click("ButtonCalculate"));
+        QCOMPARE(bench.takeMessages(), QStringList{conflictMessage});
+    });
+    QVERIFY(bench.wasShown());
+}
+
+void CalculateTest::aFolderIsMadeUnderTheIpsName() {
+    Bench bench("RZ7X-60B");
+    QFile blocked(bench.folder() + "/transceiver");
+    QDir(blocked.fileName()).removeRecursively();
+    QVERIFY(blocked.open(QIODevice::WriteOnly));
+    QStringList reasons;
+    const auto former = Core::ViewManager::setErrorSink(
+        [&](const QString& /*what*/, const QString& why) { reasons.append(why); });
+    bench.create([&](Dialog& dialog) {
+        selectQuad0(dialog);
+        QVERIFY(!calculate(dialog, true));
+    });
+    Core::ViewManager::setErrorSink(former);
+    QVERIFY(bench.wasShown());
+    QCOMPARE(reasons, QStringList{"Customized PHY: cannot make the folder: File exists"});
 }
 
 void CalculateTest::otherSourcesDoNotMatter() {
