@@ -63,7 +63,7 @@ class Translations(unittest.TestCase):
     def test_no_text_of_an_ip_is_in_them(self):
         # What a dialog's pages show is what is saved and what scripts name.
         for path in FILES:
-            own = re.compile(r"(Window|Actions|\w+Texts|IPSERDESIP)(::\w+)?$")
+            own = re.compile(r"(Window|Actions|\w+Texts|IPSERDESIP|Ipgen)(::\w+)?$")
             for context, source, _ in messages(path):
                 self.assertRegex(context, own, source)
 
