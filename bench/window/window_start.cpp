@@ -1,9 +1,15 @@
 // Starts, shows a window, and ends: at its first paint, or when it shows a project's instances.
+// The project is opened as the program does it.
 //   window_start empty | first | PROJECT
 
 #include "ipgen/window/mainwindow.h"
+#include "ipgen/window/mapview.h"
+#include "ipgen/window/theme.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QLabel>
+#include <QTableView>
 #include <QTimer>
 
 #include <functional>
@@ -30,6 +36,18 @@ private:
     std::function<bool()> m_condition;
 };
 
+/// Name, instances and map are on the screen, all of them.
+bool showsItsProject(const Window::MainWindow& window) {
+    const auto* name = window.findChild<QLabel*>(QStringLiteral("projectLabel"));
+    const auto* table = window.findChild<QTableView*>(QStringLiteral("instanceTable"));
+    const auto* map = window.findChild<Window::MapView*>();
+    return window.workbench()->hasProject() && name->isVisible() &&
+           name->text() == QFileInfo(window.workbench()->project().folder()).fileName() &&
+           table->isVisible() &&
+           table->model()->rowCount() == window.workbench()->project().instanceNames().size() &&
+           map->isVisible() && !map->cells().isEmpty();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -43,16 +61,11 @@ int main(int argc, char** argv) {
         window.show();
         return QApplication::exec();
     }
-    Window::MainWindow window;
+    Window::applyTheme(Window::Settings().theme());
     const bool first = what == QLatin1String("first");
-    EndAtPaint end([&] { return first || !window.workbench()->rows().isEmpty(); });
+    Window::MainWindow window;
+    EndAtPaint end([&] { return first || showsItsProject(window); });
     window.installEventFilter(&end);
-    window.show();
-    if (!first) {
-        QTimer::singleShot(0, &window, [&] {
-            window.start({}, what);
-            window.update();
-        });
-    }
+    window.open({}, first ? QString() : what);
     return QApplication::exec();
 }

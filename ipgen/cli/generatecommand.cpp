@@ -59,9 +59,10 @@ private:
         const ProjectInstance instance = project.instance(name);
         const CatalogueEntry* entry = nullptr;
         const Status offered = context.catalogue().pick(instance.ip, &entry);
-        if (!offered.ok()) {
+        const Status configured = project.checkConfigured(name);
+        if (!offered.ok() || !configured.ok()) {
             GenerationResult result;
-            result.status = {Exit::Refused, name, offered.text()};
+            result.status = offered.ok() ? configured : Status(Exit::Refused, name, offered.text());
             return result;
         }
         GenerationRequest request;

@@ -42,7 +42,7 @@ public:
                                      {"plls", message.plls},
                                      {"txRate", message.txRate},
                                      {"rxRate", message.rxRate},
-                                     {"offered", messages.contains(name)}}));
+                                     {"offered", context.catalogue().find(ip) != nullptr}}));
         }
         if (m_json) {
             context.printJson(QVariantMap({{"device", project.deviceName()}, {"instances", list}}));

@@ -33,6 +33,7 @@ const QString instancesKey = QStringLiteral("instances");
 const QString dataKey = QStringLiteral("data");
 const QString ipKey = QStringLiteral("ip");
 const QString configKey = QStringLiteral("config");
+const QString copiedFromKey = QStringLiteral("copiedFrom");
 
 QString systemText(int error) {
     return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
@@ -85,6 +86,11 @@ QString fileIn(const QString& folder) {
 
 QString absolute(const QString& folder) {
     return QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+}
+
+ProjectInstance instanceOf(const QVariant& saved) {
+    const QVariantMap map = saved.toMap();
+    return {map.value(ipKey).toString(), map.value(configKey).toMap()};
 }
 
 Status writeProject(const QString& path, const QVariantMap& document) {
@@ -148,10 +154,16 @@ QString Project::deviceName() const {
 
 void Project::setDeviceName(const QString& name) {
     m_now.insert(deviceKey, name);
+    m_touched = true;
 }
 
 QVariantMap Project::instances() const {
     return m_now.value(instancesKey).toMap();
+}
+
+void Project::setInstances(const QVariantMap& all) {
+    m_now.insert(instancesKey, all);
+    m_touched = true;
 }
 
 QStringList Project::instanceNames() const {
@@ -163,8 +175,7 @@ bool Project::hasInstance(const QString& name) const {
 }
 
 ProjectInstance Project::instance(const QString& name) const {
-    const QVariantMap saved = instances().value(name).toMap();
-    return {saved.value(ipKey).toString(), saved.value(configKey).toMap()};
+    return instanceOf(instances().value(name));
 }
 
 void Project::setInstance(const QString& name, const ProjectInstance& instance) {
@@ -172,21 +183,58 @@ void Project::setInstance(const QString& name, const ProjectInstance& instance) 
     QVariantMap saved = all.value(name).toMap();
     saved.insert(ipKey, instance.ip);
     saved.insert(configKey, instance.config);
+    saved.remove(copiedFromKey);
     all.insert(name, saved);
-    m_now.insert(instancesKey, all);
+    setInstances(all);
 }
 
 void Project::removeInstance(const QString& name) {
     QVariantMap all = instances();
     all.remove(name);
-    m_now.insert(instancesKey, all);
+    setInstances(all);
+}
+
+void Project::copyInstance(const QString& name, const QString& copy) {
+    QVariantMap saved = savedInstance(name);
+    if (!saved.contains(copiedFromKey)) { // a copy of a copy waits for the same
+        saved.insert(copiedFromKey, name);
+    }
+    putSavedInstance(copy, saved);
+}
+
+QString Project::copiedFrom(const QString& name) const {
+    return savedInstance(name).value(copiedFromKey).toString();
+}
+
+Status Project::checkConfigured(const QString& name) const {
+    const QString original = copiedFrom(name);
+    return original.isEmpty()
+               ? Status()
+               : Status(Exit::Refused, name,
+                        QStringLiteral("is a copy of %1 that was not configured yet: open it, "
+                                       "give it lanes and a file name of its own, and accept it")
+                            .arg(original));
+}
+
+QVariantMap Project::savedInstance(const QString& name) const {
+    return instances().value(name).toMap();
+}
+
+void Project::putSavedInstance(const QString& name, const QVariantMap& saved) {
+    QVariantMap all = instances();
+    if (saved.isEmpty()) {
+        all.remove(name);
+    } else {
+        all.insert(name, saved);
+    }
+    setInstances(all);
 }
 
 void Project::renameInstance(const QString& from, const QString& to) {
     QVariantMap all = instances();
     if (all.contains(from) && !all.contains(to)) {
         all.insert(to, all.take(from));
-        m_now.insert(instancesKey, all);
+        setInstances(all);
     }
 }
 
@@ -245,6 +293,7 @@ QVariantMap Project::data() const {
 
 void Project::setData(const QVariantMap& data) {
     m_now.insert(dataKey, data);
+    m_touched = true;
 }
 
 bool Project::sameAs(const Project& other) const {
@@ -253,8 +302,8 @@ bool Project::sameAs(const Project& other) const {
 }
 
 bool Project::changed() const {
-    return Utils::writeJson(m_now, Utils::JsonForm::Compact) !=
-           Utils::writeJson(m_base, Utils::JsonForm::Compact);
+    return m_touched && Utils::writeJson(m_now, Utils::JsonForm::Compact) !=
+                            Utils::writeJson(m_base, Utils::JsonForm::Compact);
 }
 
 Status Project::save() {
@@ -276,6 +325,7 @@ Status Project::save() {
     if (written.ok()) {
         m_now = merged;
         m_base = merged;
+        m_touched = false;
     }
     return written;
 }
@@ -290,9 +340,10 @@ Status Project::openInModel(const Catalogue& catalogue, QList<Status>* skipped) 
     model->openProject(device, workingDir(), data());
     model->clearDataChanged();
     IPCore::setOutputRoot(workingDir());
-    const QStringList names = instanceNames();
-    for (const QString& name : names) {
-        const ProjectInstance one = instance(name);
+    const QVariantMap all = instances();
+    for (auto it = all.constBegin(); it != all.constEnd(); ++it) {
+        const QString& name = it.key();
+        const ProjectInstance one = instanceOf(it.value());
         const CatalogueEntry* entry = nullptr;
         const Status offered = catalogue.pick(one.ip, &entry);
         if (!offered.ok()) {
@@ -300,6 +351,9 @@ Status Project::openInModel(const Catalogue& catalogue, QList<Status>* skipped) 
                 skipped->append({Exit::BadInput, name, offered.text()});
             }
             continue;
+        }
+        if (it.value().toMap().contains(copiedFromKey)) {
+            continue; // holds nothing of its own yet
         }
         entry->protocol->setDevice(device);
         const std::unique_ptr<IPSERDESIP::Message> message(

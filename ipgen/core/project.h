@@ -47,6 +47,17 @@ public:
     /// Adds or replaces; keys of the saved instance other than "ip" and "config" stay.
     void setInstance(const QString& name, const ProjectInstance& instance);
     void removeInstance(const QString& name);
+    /// Adds a copy under a name that is free. Until the copy is configured, which setInstance()
+    /// says, it holds no resources and cannot be generated: it would write over the original.
+    void copyInstance(const QString& name, const QString& copy);
+    /// What an instance is a copy of while it is not configured; else empty.
+    QString copiedFrom(const QString& name) const;
+    /// Refused while the instance is a copy that is not configured.
+    Status checkConfigured(const QString& name) const;
+    /// The instance with every key that the file has of it; empty: there is none.
+    QVariantMap savedInstance(const QString& name) const;
+    /// Puts it back like that; empty: away.
+    void putSavedInstance(const QString& name, const QVariantMap& saved);
     /// Moves an instance to a name that is free.
     void renameInstance(const QString& from, const QString& to);
     /// Refused with the reason when a name cannot be given to an instance.
@@ -80,10 +91,12 @@ public:
 
 private:
     QVariantMap instances() const;
+    void setInstances(const QVariantMap& all);
 
     QString m_folder;
     QVariantMap m_base; ///< as read or saved last
     QVariantMap m_now;
+    bool m_touched = false; ///< since then
 };
 
 } // namespace Ipgen

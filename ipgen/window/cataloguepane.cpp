@@ -1,6 +1,7 @@
 #include "ipgen/window/cataloguepane.h"
 
 #include "ipgen/window/named.h"
+#include "ipgen/window/symbols.h"
 
 #include <QFileInfo>
 #include <QHeaderView>
@@ -79,7 +80,6 @@ CataloguePane::CataloguePane(QWidget* parent)
     named(m_search, "catalogueSearch", tr("Search the catalogue"),
           tr("Type part of an IP's name, category or summary (Ctrl+F)"));
     m_search->setPlaceholderText(tr("Search IPs"));
-    m_search->setClearButtonEnabled(true);
     named(m_tree, "catalogueTree", tr("IP catalogue"),
           tr("The IPs on offer; Enter creates an instance"));
     m_filter->setSourceModel(m_model);
@@ -142,7 +142,7 @@ void CataloguePane::setCatalogue(const Ipgen::Catalogue& catalogue, const DEV::D
     for (const Ipgen::PluginProblem& problem : catalogue.problems()) {
         auto* item = new QStandardItem(QFileInfo(problem.path).fileName());
         item->setEditable(false);
-        item->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+        item->setIcon(symbolIcon(Symbol::Warning));
         item->setData(QString(), IdRole);
         item->setData(problem.reason, ReasonRole);
         item->setData(problem.path, AboutRole);
@@ -166,6 +166,10 @@ void CataloguePane::setCatalogue(const Ipgen::Catalogue& catalogue, const DEV::D
 QString CataloguePane::chosen() const {
     const QModelIndex index = m_tree->currentIndex();
     return index.data(ReasonRole).toString().isEmpty() ? index.data(IdRole).toString() : QString();
+}
+
+void CataloguePane::finish() {
+    m_search->setClearButtonEnabled(true);
 }
 
 void CataloguePane::focusSearch() {

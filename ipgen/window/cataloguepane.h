@@ -29,6 +29,8 @@ public:
     /// The chosen IP's id; empty: none, or one that cannot be made.
     QString chosen() const;
     void focusSearch();
+    /// What need not be there at the first sight.
+    void finish();
 
 Q_SIGNALS:
     void createRequested(const QString& ip);

@@ -6,7 +6,6 @@
 #include "ipgen/window/theme.h"
 
 #include <QApplication>
-#include <QTimer>
 
 namespace Window {
 
@@ -18,9 +17,7 @@ int runGui(const QString& project, const QStringList& pluginDirs) {
         QCoreApplication::translate("Window", "IP generator"));
     applyTheme(Settings().theme());
     MainWindow window;
-    window.show();
-    // The window is there before the plug-ins are read.
-    QTimer::singleShot(0, &window, [&] { window.start(pluginDirs, project); });
+    window.open(pluginDirs, project);
     return QApplication::exec();
 }
 

@@ -1,11 +1,11 @@
 #include "ipgen/window/instancemodel.h"
 
+#include "ipgen/window/symbols.h"
 #include "ipgen/window/theme.h"
 #include "ipgen/window/workbench.h"
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -27,16 +27,17 @@ QString rateText(const InstanceRow& row) {
 }
 
 QVariant stateIcon(State state) {
-    const QStyle* style = QApplication::style();
     switch (state) {
     case State::Generated:
-        return style->standardIcon(QStyle::SP_DialogApplyButton);
+        return symbolIcon(Symbol::Good);
     case State::OutOfDate:
-        return style->standardIcon(QStyle::SP_BrowserReload);
+        return symbolIcon(Symbol::OutOfDate);
     case State::CheckFailed:
-        return style->standardIcon(QStyle::SP_MessageBoxCritical);
+        return symbolIcon(Symbol::Error);
     case State::NoIp:
-        return style->standardIcon(QStyle::SP_MessageBoxWarning);
+        return symbolIcon(Symbol::Warning);
+    case State::Copy:
+        return symbolIcon(Symbol::Pending);
     case State::Unknown:
     case State::Configured:
         break;
@@ -50,6 +51,7 @@ QVariant stateColor(State state) {
     case State::Generated:
         return goodColor(palette);
     case State::OutOfDate:
+    case State::Copy:
         return warningColor(palette);
     case State::CheckFailed:
     case State::NoIp:

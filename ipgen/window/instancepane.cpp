@@ -29,7 +29,6 @@ InstancePane::InstancePane(Workbench* bench, QWidget* parent)
     named(m_filter, "instanceFilter", tr("Filter the instances"),
           tr("Show only instances with this text in a column"));
     m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setClearButtonEnabled(true);
     m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 30);
     named(m_table, "instanceTable", tr("Instances of the project"));
     m_table->setModel(m_sorted);
@@ -55,7 +54,7 @@ InstancePane::InstancePane(Workbench* bench, QWidget* parent)
     m_empty->setAlignment(Qt::AlignCenter);
     m_empty->setWordWrap(true);
 
-    auto* title = new QLabel(tr("<b>Instances</b>"), this);
+    auto* title = strong(new QLabel(tr("Instances"), this));
     auto* head = new QHBoxLayout;
     head->addWidget(title);
     head->addStretch(1);
@@ -73,8 +72,14 @@ InstancePane::InstancePane(Workbench* bench, QWidget* parent)
     connect(m_table, &QTableView::activated, this, [this](const QModelIndex& index) {
         Q_EMIT openRequested(index.data(InstanceModel::nameRole).toString());
     });
+    // Instances come and go by other hands too: what was chosen stays chosen.
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_kept = selected();
+        m_keptCurrent = current();
+    });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
         showEmptiness();
+        chooseKept();
         Q_EMIT selectionChanged();
     });
     showEmptiness();
@@ -85,6 +90,29 @@ void InstancePane::showEmptiness() {
     m_table->setVisible(any);
     m_empty->setVisible(!any);
     m_filter->setEnabled(any);
+}
+
+void InstancePane::chooseKept() {
+    QItemSelection rows;
+    for (const QString& name : qAsConst(m_kept)) {
+        const QModelIndex index = indexOf(name);
+        rows.select(index, index);
+        if (name == m_keptCurrent) {
+            m_table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        }
+    }
+    m_table->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect |
+                                                QItemSelectionModel::Rows);
+}
+
+QModelIndex InstancePane::indexOf(const QString& name) const {
+    if (m_sorted->rowCount() == 0) {
+        return {};
+    }
+    return m_sorted
+        ->match(m_sorted->index(0, 0), InstanceModel::nameRole, name, 1,
+                Qt::MatchExactly | Qt::MatchWrap)
+        .value(0);
 }
 
 QStringList InstancePane::selected() const {
@@ -104,16 +132,16 @@ QString InstancePane::current() const {
 }
 
 void InstancePane::select(const QString& name) {
-    if (m_sorted->rowCount() == 0) {
-        return;
+    const QModelIndex found = indexOf(name);
+    if (found.isValid()) {
+        m_table->selectionModel()->setCurrentIndex(found, QItemSelectionModel::ClearAndSelect |
+                                                              QItemSelectionModel::Rows);
+        m_table->scrollTo(found);
     }
-    const QModelIndexList found = m_sorted->match(m_sorted->index(0, 0), InstanceModel::nameRole,
-                                                  name, 1, Qt::MatchExactly | Qt::MatchWrap);
-    if (!found.isEmpty()) {
-        m_table->selectionModel()->setCurrentIndex(
-            found.first(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-        m_table->scrollTo(found.first());
-    }
+}
+
+void InstancePane::finish() {
+    m_filter->setClearButtonEnabled(true);
 }
 
 void InstancePane::focusTable() {

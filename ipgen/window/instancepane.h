@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QLabel;
+class QModelIndex;
 class QLineEdit;
 class QSortFilterProxyModel;
 class QStackedLayout;
@@ -27,6 +28,8 @@ public:
     QString current() const;
     void select(const QString& name);
     void focusTable();
+    /// What need not be there at the first sight.
+    void finish();
     /// Actions for the table's context menu.
     void setMenuActions(const QList<QAction*>& actions);
 
@@ -36,6 +39,8 @@ Q_SIGNALS:
 
 private:
     void showEmptiness();
+    void chooseKept();
+    QModelIndex indexOf(const QString& name) const;
 
     Workbench* m_bench;
     InstanceModel* m_model;
@@ -43,6 +48,8 @@ private:
     QLineEdit* m_filter;
     QTableView* m_table;
     QLabel* m_empty;
+    QStringList m_kept; ///< chosen while the table is filled anew
+    QString m_keptCurrent;
 };
 
 } // namespace Window

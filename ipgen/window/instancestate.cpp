@@ -59,6 +59,14 @@ InstanceRow rowOf(const Ipgen::Project& project, const Ipgen::Catalogue& catalog
         return row;
     }
     row.ipName = entry->name;
+    const QString original = project.copiedFrom(name);
+    if (!original.isEmpty()) {
+        row.state = State::Copy;
+        row.detail = StateTexts::tr("A copy of %1: configure it (Ctrl+E), so that it has lanes and "
+                                    "a file of its own. Until then it holds nothing and is not "
+                                    "generated.")
+                         .arg(original);
+    }
     if (message != nullptr) {
         row.file = message->file;
         row.lanes = message->lanes;
@@ -87,7 +95,7 @@ void lookAtFiles(const Ipgen::Project& project, const Ipgen::Catalogue& catalogu
                  const DEV::DeviceArg& device, const QVector<InstanceRow*>& rows) {
     QVector<InstanceRow*> withFiles;
     for (InstanceRow* row : rows) {
-        if (row->state == State::NoIp) {
+        if (row->state == State::NoIp || row->state == State::Copy) {
             continue;
         }
         row->detail.clear();
@@ -122,6 +130,8 @@ QString stateText(State state) {
         return StateTexts::tr("looking …");
     case State::NoIp:
         return StateTexts::tr("IP not on offer");
+    case State::Copy:
+        return StateTexts::tr("needs configuring");
     case State::Configured:
         return StateTexts::tr("configured");
     case State::Generated:

@@ -16,6 +16,7 @@ namespace Window {
 enum class State {
     Unknown,     ///< not looked at yet
     NoIp,        ///< its IP is not on offer
+    Copy,        ///< of another one, and not configured yet
     Configured,  ///< nothing is generated
     Generated,   ///< the files are what a generation would write now
     OutOfDate,   ///< a generation would write other files
@@ -36,8 +37,8 @@ struct InstanceRow {
     QString detail; ///< why, one sentence; may be empty
 };
 
-/// A row of the open project, from what the transceiver model holds of it. The state is Unknown or
-/// NoIp.
+/// A row of the open project, from what the transceiver model holds of it. The state is Unknown,
+/// NoIp or Copy.
 InstanceRow rowOf(const Ipgen::Project& project, const Ipgen::Catalogue& catalogue,
                   const QString& name, const IPSERDESIP::Message* message);
 

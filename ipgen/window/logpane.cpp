@@ -22,7 +22,26 @@ QString commandLine(const QStringList& arguments) {
     return words.join(QLatin1Char(' '));
 }
 
-LogPane::LogPane(QWidget* parent)
+void Log::addCommand(const QStringList& arguments) {
+    add(QStringLiteral("$ ") + commandLine(arguments));
+}
+
+void Log::addText(const QString& text) {
+    if (!text.trimmed().isEmpty()) {
+        add(text.trimmed());
+    }
+}
+
+void Log::add(const QString& entry) {
+    constexpr int most = 1000;
+    m_entries.append(entry);
+    if (m_entries.size() > most) {
+        m_entries.removeFirst();
+    }
+    Q_EMIT added(entry);
+}
+
+LogPane::LogPane(Log* log, QWidget* parent)
     : QPlainTextEdit(parent) {
     constexpr int most = 5000; // lines
     named(this, "log", tr("Log"), tr("What was done, with the command lines that do the same"));
@@ -31,16 +50,10 @@ LogPane::LogPane(QWidget* parent)
     setMaximumBlockCount(most);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setPlaceholderText(tr("What you do in the window stands here as command lines."));
-}
-
-void LogPane::addCommand(const QStringList& arguments) {
-    appendPlainText(QStringLiteral("$ ") + commandLine(arguments));
-}
-
-void LogPane::addText(const QString& text) {
-    if (!text.trimmed().isEmpty()) {
-        appendPlainText(text.trimmed());
+    for (const QString& entry : log->entries()) {
+        appendPlainText(entry);
     }
+    connect(log, &Log::added, this, &QPlainTextEdit::appendPlainText);
 }
 
 } // namespace Window

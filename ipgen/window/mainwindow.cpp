@@ -3,6 +3,7 @@
 #include "ipgen/window/cataloguepane.h"
 #include "ipgen/window/filespane.h"
 #include "ipgen/window/instancepane.h"
+#include "ipgen/window/latepage.h"
 #include "ipgen/window/logpane.h"
 #include "ipgen/window/mappane.h"
 #include "ipgen/window/named.h"
@@ -24,6 +25,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Window {
@@ -39,11 +41,9 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(tr("IP generator"));
-    setWindowIcon(QIcon::fromTheme(QStringLiteral("ipgen")));
     makePages();
     makeActions();
     makeMenus();
-    drawIcons();
     statusBar()->setSizeGripEnabled(true);
     connect(&m_bench, &Workbench::hostChanged, this, &MainWindow::onHost);
     connect(&m_bench, &Workbench::projectChanged, this, &MainWindow::onProject);
@@ -56,6 +56,13 @@ MainWindow::MainWindow(QWidget* parent)
     m_across->restoreState(m_settings.splitter(acrossKey));
     m_down->restoreState(m_settings.splitter(downKey));
     onProject();
+    // What is not seen at the first sight waits for it.
+    afterPaint([this] {
+        setWindowIcon(QIcon::fromTheme(QStringLiteral("ipgen")));
+        m_catalogue->finish();
+        m_instances->finish();
+        m_bench.beginLooking();
+    });
 }
 
 MainWindow::~MainWindow() {
@@ -70,26 +77,21 @@ MainWindow::~MainWindow() {
 void MainWindow::makePages() {
     m_notice = new NoticeBar(this);
     m_stack = new QStackedWidget(this);
-    m_welcome = new WelcomePage(this);
     m_work = new QWidget(this);
-    m_projectLabel = named(new QLabel(this), "projectLabel", tr("Project"));
-    m_projectLabel->setTextFormat(Qt::RichText);
-    m_deviceLabel = named(new QLabel(this), "deviceLabel", tr("Device"));
-    m_deviceLabel->setTextFormat(Qt::RichText);
+    m_log = new Log(this);
     m_catalogue = new CataloguePane(this);
     m_instances = new InstancePane(&m_bench, this);
     m_views = named(new QTabWidget(this), "views", tr("Views of the project"));
     m_views->setDocumentMode(true);
     m_map = new MapPane(&m_bench, this);
     m_views->addTab(m_map, tr("Quad map"));
-    auto* resources = new ResourceTable(&m_bench, this);
-    m_views->addTab(resources, tr("Resources"));
-    m_filesPane = new FilesPane(&m_bench, this);
-    m_views->addTab(m_filesPane, tr("Files"));
-    m_summary = new SummaryPane(&m_bench, this);
-    m_views->addTab(m_summary, tr("Summary"));
-    m_log = new LogPane(this);
-    m_views->addTab(m_log, tr("Log"));
+    const auto addLate = [this](const QString& title, QWidget* (MainWindow::*make)()) {
+        m_views->addTab(new LatePage([this, make] { return (this->*make)(); }, this), title);
+    };
+    addLate(tr("Resources"), &MainWindow::makeResourceTable);
+    addLate(tr("Files"), &MainWindow::makeFilesPane);
+    addLate(tr("Summary"), &MainWindow::makeSummaryPane);
+    m_views->addTab(new LatePage([this] { return new LogPane(m_log, this); }, this), tr("Log"));
 
     m_down = new QSplitter(Qt::Vertical, this);
     m_down->addWidget(m_instances);
@@ -105,14 +107,11 @@ void MainWindow::makePages() {
     m_across->setStretchFactor(1, 4);
     auto* head = new QHBoxLayout;
     head->setContentsMargins(12, 8, 12, 4);
-    head->addWidget(m_projectLabel);
-    head->addStretch(1);
-    head->addWidget(m_deviceLabel);
+    makeHead(head);
     auto* inside = new QVBoxLayout(m_work);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->addLayout(head);
     inside->addWidget(m_across, 1);
-    m_stack->addWidget(m_welcome);
     m_stack->addWidget(m_work);
     auto* center = new QWidget(this);
     auto* layout = new QVBoxLayout(center);
@@ -122,6 +121,37 @@ void MainWindow::makePages() {
     layout->addWidget(m_stack, 1);
     setCentralWidget(center);
 
+    connect(m_map, &MapPane::openRequested, this, &MainWindow::openInstance);
+    connect(m_catalogue, &CataloguePane::createRequested, this, &MainWindow::createInstance);
+    connect(m_instances, &InstancePane::openRequested, this, &MainWindow::openInstance);
+    connect(m_instances, &InstancePane::selectionChanged, this, &MainWindow::onSelection);
+}
+
+void MainWindow::makeHead(QBoxLayout* layout) {
+    const auto label = [this](const char* object, const QString& name) {
+        auto* made = named(new QLabel(this), object, name);
+        made->setTextFormat(Qt::PlainText);
+        return made;
+    };
+    m_projectLabel = strong(label("projectLabel", tr("Project")));
+    m_folderLabel = label("folderLabel", tr("Folder of the project"));
+    m_deviceLabel = strong(label("deviceLabel", tr("Device")));
+    m_deviceAbout = label("deviceAbout", tr("About the device"));
+    // A long path is cut off, and does not make the window wide.
+    m_folderLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    const int gap = fontMetrics().averageCharWidth() * 2;
+    layout->addWidget(m_projectLabel);
+    layout->addSpacing(gap);
+    layout->addWidget(m_folderLabel, 1);
+    layout->addSpacing(gap);
+    layout->addWidget(m_deviceLabel);
+    layout->addSpacing(gap);
+    layout->addWidget(m_deviceAbout);
+}
+
+void MainWindow::makeWelcome() {
+    m_welcome = new WelcomePage(this);
+    m_stack->addWidget(m_welcome);
     connect(m_welcome, &WelcomePage::newRequested, this, &MainWindow::newProject);
     connect(m_welcome, &WelcomePage::openRequested, this, &MainWindow::openProject);
     connect(m_welcome, &WelcomePage::recentRequested, this, &MainWindow::openFolder);
@@ -129,12 +159,35 @@ void MainWindow::makePages() {
         m_settings.removeRecent(folder);
         showRecent();
     });
-    connect(m_map, &MapPane::openRequested, this, &MainWindow::openInstance);
-    connect(resources, &ResourceTable::openRequested, this, &MainWindow::openInstance);
+}
+
+QWidget* MainWindow::makeResourceTable() {
+    auto* table = new ResourceTable(&m_bench, this);
+    connect(table, &ResourceTable::openRequested, this, &MainWindow::openInstance);
+    return table;
+}
+
+QWidget* MainWindow::makeFilesPane() {
+    m_filesPane = new FilesPane(&m_bench, this);
     connect(m_filesPane, &FilesPane::folderRequested, this, &MainWindow::openOutputFolder);
-    connect(m_catalogue, &CataloguePane::createRequested, this, &MainWindow::createInstance);
-    connect(m_instances, &InstancePane::openRequested, this, &MainWindow::openInstance);
-    connect(m_instances, &InstancePane::selectionChanged, this, &MainWindow::onSelection);
+    onSelection();
+    return m_filesPane;
+}
+
+QWidget* MainWindow::makeSummaryPane() {
+    m_summary = new SummaryPane(&m_bench, this);
+    onSelection();
+    return m_summary;
+}
+
+void MainWindow::open(const QStringList& pluginDirs, const QString& project) {
+    if (!project.isEmpty()) {
+        start(pluginDirs, project);
+        show();
+        return;
+    }
+    show();
+    QTimer::singleShot(0, this, [this, pluginDirs] { start(pluginDirs, QString()); });
 }
 
 void MainWindow::start(const QStringList& pluginDirs, const QString& project) {
@@ -168,13 +221,12 @@ void MainWindow::onProject() {
     if (any) {
         const QString folder = m_bench.project().folder();
         setWindowTitle(tr("%1 — IP generator").arg(QFileInfo(folder).fileName()));
-        m_projectLabel->setText(
-            QStringLiteral("<b>%1</b>&nbsp;&nbsp;<small>%2</small>")
-                .arg(QFileInfo(folder).fileName().toHtmlEscaped(), folder.toHtmlEscaped()));
+        m_projectLabel->setText(QFileInfo(folder).fileName());
         m_projectLabel->setToolTip(folder);
-        const QString id = m_bench.device().id();
-        m_deviceLabel->setText(QStringLiteral("<b>%1</b>&nbsp;&nbsp;<small>%2</small>")
-                                   .arg(id.toHtmlEscaped(), deviceSummary(id).toHtmlEscaped()));
+        m_folderLabel->setText(folder);
+        m_folderLabel->setToolTip(folder);
+        m_deviceLabel->setText(m_bench.device().id());
+        m_deviceAbout->setText(deviceSummary(m_bench.device().id()));
         if (!m_bench.otherUser().isEmpty()) {
             m_notice->show(NoticeBar::Kind::Warning,
                            tr("This project is open in %1 too. Both see each other's changes; the "
@@ -184,7 +236,11 @@ void MainWindow::onProject() {
     } else {
         setWindowTitle(tr("IP generator"));
     }
-    m_stack->setCurrentWidget(any ? m_work : m_welcome);
+    if (any) {
+        m_stack->setCurrentWidget(m_work);
+    } else if (isVisible()) {
+        showWelcome();
+    }
     if (m_bench.hostLoaded()) {
         m_catalogue->setCatalogue(m_bench.catalogue(), m_bench.device());
     }
@@ -192,13 +248,48 @@ void MainWindow::onProject() {
     onSelection();
 }
 
+void MainWindow::showWelcome() {
+    if (m_welcome == nullptr) {
+        makeWelcome();
+        showRecent();
+    }
+    m_stack->setCurrentWidget(m_welcome);
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    if (!m_bench.hasProject()) {
+        showWelcome();
+    }
+    QMainWindow::showEvent(event);
+}
+
+void MainWindow::afterPaint(const std::function<void()>& work) {
+    if (m_painted) {
+        work();
+    } else {
+        m_afterPaint.push_back(work);
+    }
+}
+
+void MainWindow::onFirstPaint() {
+    const auto all = std::move(m_afterPaint);
+    for (const auto& work : all) {
+        work();
+    }
+}
+
 void MainWindow::showRecent() {
     const QStringList recent = m_settings.recentProjects();
-    m_welcome->setRecent(recent);
+    if (m_welcome != nullptr) {
+        m_welcome->setRecent(recent);
+    }
     m_recentMenu->clear();
     for (const QString& folder : recent) {
         QAction* action = m_recentMenu->addAction(folder);
+        const int number = m_recentMenu->actions().size();
+        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Alt+%1").arg(number)));
         action->setToolTip(tr("Open %1").arg(folder));
+        action->setStatusTip(action->toolTip());
         connect(action, &QAction::triggered, this, [this, folder] { openFolder(folder); });
     }
     m_recentMenu->setEnabled(!recent.isEmpty());
@@ -206,8 +297,12 @@ void MainWindow::showRecent() {
 
 void MainWindow::onSelection() {
     const bool project = m_bench.hasProject();
-    m_filesPane->setInstance(project ? m_instances->current() : QString());
-    m_summary->setInstances(project ? m_instances->selected() : QStringList());
+    if (m_filesPane != nullptr) {
+        m_filesPane->setInstance(project ? m_instances->current() : QString());
+    }
+    if (m_summary != nullptr) {
+        m_summary->setInstances(project ? m_instances->selected() : QStringList());
+    }
     m_map->setHighlighted(project ? m_instances->current() : QString());
     const int selected = project ? m_instances->selected().size() : 0;
     const auto enable = [this](std::initializer_list<const char*> names, bool on) {
@@ -215,7 +310,7 @@ void MainWindow::onSelection() {
             action(name)->setEnabled(on);
         }
     };
-    enable({"close", "reload", "create", "find", "instances", "folder"}, project);
+    enable({"close", "reload", "create", "find", "instances", "folder", "exportmap"}, project);
     enable({"save"}, project && m_bench.project().changed());
     enable({"generateall"}, project && !m_bench.rows().isEmpty());
     enable({"configure", "duplicate", "rename"}, selected == 1);
@@ -251,13 +346,6 @@ void MainWindow::done(const QStringList& command, const QString& text) {
     }
 }
 
-void MainWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::PaletteChange && !m_actions.isEmpty()) {
-        drawIcons();
-    }
-    QMainWindow::changeEvent(event);
-}
-
 void MainWindow::closeEvent(QCloseEvent* event) {
     m_settings.setLayout(saveGeometry(), saveState());
     m_settings.setSplitter(acrossKey, m_across->saveState());
@@ -268,6 +356,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 bool MainWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && m_bench.hasProject()) {
         m_bench.refreshStates(); // files may have been changed elsewhere
+    } else if (event->type() == QEvent::Paint && !m_painted) {
+        m_painted = true;
+        QTimer::singleShot(0, this, &MainWindow::onFirstPaint);
     }
     return QMainWindow::event(event);
 }

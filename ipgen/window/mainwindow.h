@@ -6,7 +6,11 @@
 #include <QHash>
 #include <QMainWindow>
 
+#include <functional>
+#include <vector>
+
 class QAction;
+class QBoxLayout;
 class QLabel;
 class QMenu;
 class QSplitter;
@@ -18,7 +22,8 @@ namespace Window {
 class CataloguePane;
 class FilesPane;
 class InstancePane;
-class LogPane;
+class LatePage;
+class Log;
 class MapPane;
 class NoticeBar;
 class SummaryPane;
@@ -33,9 +38,13 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    /// Shows the window and starts: with a project to open, that is there at the first sight;
+    /// without one, the window is there before the plug-ins are read.
+    void open(const QStringList& pluginDirs, const QString& project);
     /// Reads devices and plug-ins and opens the project, if any; failures are shown.
     void start(const QStringList& pluginDirs, const QString& project);
     Workbench* workbench() { return &m_bench; }
+    const Workbench* workbench() const { return &m_bench; }
     /// By its row's name; null when there is none.
     QAction* action(const char* name) const { return m_actions.value(QLatin1String(name)); }
 
@@ -59,6 +68,7 @@ public:
     void netlist();
     void remove();
     void copyCommand();
+    void exportMap();
     void openOutputFolder();
     void focusInstances();
     void showShortcuts();
@@ -66,14 +76,21 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void makeActions();
     void makeMenus();
-    void drawIcons();
     void makePages();
+    void makeHead(QBoxLayout* layout);
+    QWidget* makeFilesPane();
+    QWidget* makeSummaryPane();
+    QWidget* makeResourceTable();
+    void makeWelcome();
+    void showWelcome();
+    void afterPaint(const std::function<void()>& work);
+    void onFirstPaint();
     void onHost();
     void onProject();
     void onSelection();
@@ -97,16 +114,20 @@ private:
     WelcomePage* m_welcome = nullptr;
     QWidget* m_work = nullptr;
     QLabel* m_projectLabel = nullptr;
+    QLabel* m_folderLabel = nullptr;
     QLabel* m_deviceLabel = nullptr;
+    QLabel* m_deviceAbout = nullptr;
     QSplitter* m_across = nullptr;
     QSplitter* m_down = nullptr;
     CataloguePane* m_catalogue = nullptr;
     InstancePane* m_instances = nullptr;
     QTabWidget* m_views = nullptr;
     MapPane* m_map = nullptr;
-    FilesPane* m_filesPane = nullptr;
-    SummaryPane* m_summary = nullptr;
-    LogPane* m_log = nullptr;
+    FilesPane* m_filesPane = nullptr; ///< null while it was not looked at
+    SummaryPane* m_summary = nullptr; ///< likewise
+    Log* m_log = nullptr;
+    bool m_painted = false;
+    std::vector<std::function<void()>> m_afterPaint;
 };
 
 } // namespace Window

@@ -2,12 +2,14 @@
 
 #include "ipgen/window/mapview.h"
 #include "ipgen/window/named.h"
+#include "ipgen/window/newprojectdialog.h"
 #include "ipgen/window/theme.h"
 #include "ipgen/window/workbench.h"
 
 #include <core/idecore.h>
 #include <serdesip/serdes.h>
 
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollArea>
@@ -61,6 +63,17 @@ MapPane::MapPane(Workbench* bench, QWidget* parent)
 
 void MapPane::setHighlighted(const QString& owner) {
     m_view->setHighlighted(owner);
+}
+
+MapSheet MapPane::sheet() const {
+    MapSheet sheet;
+    const QString id = m_bench->device().id();
+    sheet.title =
+        tr("%1: transceivers of %2").arg(QFileInfo(m_bench->project().folder()).fileName(), id);
+    sheet.about = deviceSummary(id);
+    sheet.cells = cellsOf(*m_bench);
+    sheet.marks = ownerMarks(IPSERDESIP::serdes::instance()->messages());
+    return sheet;
 }
 
 void MapPane::showEvent(QShowEvent* event) {

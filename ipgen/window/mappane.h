@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ipgen/window/mapsheet.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -19,6 +21,8 @@ public:
     explicit MapPane(Workbench* bench, QWidget* parent = nullptr);
     void setHighlighted(const QString& owner);
     MapView* view() const { return m_view; }
+    /// What there is to print.
+    MapSheet sheet() const;
 
 Q_SIGNALS:
     void openRequested(const QString& name);

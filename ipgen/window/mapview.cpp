@@ -159,10 +159,29 @@ void MapView::drawLinks(QPainter& painter, const QPalette& palette) const {
     }
 }
 
+void MapView::drawBadge(QPainter& painter, const QPalette& palette, const QRectF& place,
+                        const OwnerMark& mark) {
+    const bool dark = isDark(palette);
+    painter.fillRect(place, ownerColor(mark.color, dark));
+    painter.setBrush(QBrush(dark ? QColor(255, 255, 255, 110) : QColor(0, 0, 0, 110),
+                            ownerPattern(mark.pattern)));
+    painter.setPen(Qt::NoPen);
+    painter.drawRect(place);
+    // The letter stands on a plain ground, so that the pattern does not run through it.
+    const qreal high = place.height() * 0.62;
+    const qreal wide =
+        std::max(high, QFontMetricsF(painter.font()).horizontalAdvance(mark.letter) + high * 0.3);
+    QRectF ground(0, 0, wide, high);
+    ground.moveCenter(place.center());
+    painter.setBrush(palette.color(QPalette::Base));
+    painter.drawRoundedRect(ground, high / 2, high / 2);
+    painter.setPen(palette.color(QPalette::Text));
+    painter.drawText(place, Qt::AlignCenter, mark.letter);
+}
+
 void MapView::drawCell(QPainter& painter, const QPalette& palette, int index) const {
     const MapCell& cell = m_cells.at(index);
     const QRectF place = m_places.at(index);
-    const bool dark = isDark(palette);
     const QColor& ink = palette.color(QPalette::Text);
     // Several owners get narrower badges, so that the label keeps its room.
     constexpr int most = 3;
@@ -174,23 +193,11 @@ void MapView::drawCell(QPainter& painter, const QPalette& palette, int index) co
     // Owners share the badge strip at the left end, a slice each.
     qreal x = place.left();
     for (int i = 0; i < shown; ++i) {
-        const OwnerMark mark = m_marks.value(cell.owners.at(i));
-        const QRectF slice(x, place.top(), badge, place.height());
-        painter.fillRect(slice, ownerColor(mark.color, dark));
-        painter.setBrush(QBrush(dark ? QColor(255, 255, 255, 110) : QColor(0, 0, 0, 110),
-                                ownerPattern(mark.pattern)));
-        painter.setPen(Qt::NoPen);
-        painter.drawRect(slice);
-        // The letter stands on a plain disc, so that the pattern does not run through it.
-        const QString letter =
-            i == most - 1 && cell.owners.size() > most ? QStringLiteral("…") : mark.letter;
-        const qreal across = place.height() * 0.62;
-        QRectF disc(0, 0, across, across);
-        disc.moveCenter(slice.center());
-        painter.setBrush(palette.color(QPalette::Base));
-        painter.drawEllipse(disc);
-        painter.setPen(ink);
-        painter.drawText(slice, Qt::AlignCenter, letter);
+        OwnerMark mark = m_marks.value(cell.owners.at(i));
+        if (i == most - 1 && cell.owners.size() > most) {
+            mark.letter = QStringLiteral("…");
+        }
+        drawBadge(painter, palette, QRectF(x, place.top(), badge, place.height()), mark);
         x += badge;
     }
     const QRectF text(x + place.height() * 0.2, place.top(),

@@ -19,13 +19,16 @@ public:
     void setHighlighted(const QString& owner);
     const QVector<MapCell>& cells() const { return m_cells; }
     /// Where a resource is drawn; null when it is not.
-    QRectF placeOf(const QString& resource) const;
+    Q_INVOKABLE QRectF placeOf(const QString& resource) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
     /// Draws the map with this palette; the window, pictures and paper get the same.
     void draw(QPainter& painter, const QPalette& palette) const;
 
+    /// The mark of an owner: colour, pattern, letter.
+    static void drawBadge(QPainter& painter, const QPalette& palette, const QRectF& place,
+                          const OwnerMark& mark);
     static QColor ownerColor(int index, bool dark);
     static Qt::BrushStyle ownerPattern(int index);
 

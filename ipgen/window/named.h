@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QString>
 #include <QWidget>
 
@@ -15,6 +16,15 @@ W* named(W* widget, const char* object, const QString& name, const QString& tip 
         widget->setToolTip(tip);
     }
     return widget;
+}
+
+/// The same label in bold: plain text, which a label lays out much faster than rich text.
+inline QLabel* strong(QLabel* label) {
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    label->setTextFormat(Qt::PlainText);
+    return label;
 }
 
 } // namespace Window

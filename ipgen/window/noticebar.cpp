@@ -1,7 +1,7 @@
 #include "ipgen/window/noticebar.h"
 
 #include "ipgen/window/named.h"
-#include "ipgen/window/theme.h"
+#include "ipgen/window/symbols.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -24,7 +24,7 @@ NoticeBar::NoticeBar(QWidget* parent)
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_text->setFocusPolicy(Qt::NoFocus);
     named(m_close, "noticeClose", tr("Close the notice"), tr("Close this notice (Esc)"));
-    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setIcon(symbolIcon(Symbol::Close));
     m_close->setAutoRaise(true);
     m_close->setShortcut(Qt::Key_Escape);
     auto* layout = new QHBoxLayout(this);
@@ -37,11 +37,11 @@ NoticeBar::NoticeBar(QWidget* parent)
 }
 
 void NoticeBar::show(Kind kind, const QString& text) {
-    const QStyle::StandardPixmap icon = kind == Kind::Error     ? QStyle::SP_MessageBoxCritical
-                                        : kind == Kind::Warning ? QStyle::SP_MessageBoxWarning
-                                                                : QStyle::SP_MessageBoxInformation;
+    const Symbol symbol = kind == Kind::Error     ? Symbol::Error
+                          : kind == Kind::Warning ? Symbol::Warning
+                                                  : Symbol::Information;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
+    m_icon->setPixmap(symbolIcon(symbol).pixmap(window()->windowHandle(), QSize(size, size)));
     m_text->setText(text);
     setVisible(true);
     QAccessibleEvent event(m_text, QAccessible::Alert);

@@ -24,7 +24,7 @@ QStringList Settings::recentProjects() const {
 }
 
 void Settings::addRecent(const QString& folder) {
-    constexpr int most = 12;
+    constexpr int most = 9; // a digit key each
     QStringList all = recentProjects();
     all.removeAll(folder);
     all.prepend(folder);

@@ -1,7 +1,11 @@
 #include "ipgen/window/theme.h"
 
+#include "ipgen/window/symbols.h"
+
 #include <QApplication>
 #include <QColor>
+#include <QIcon>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
 
@@ -35,14 +39,40 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// A style with the window's own symbols for the pictures that Qt would read from files.
+class SymbolStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (picture) {
+        case SP_MessageBoxInformation:
+            return symbolIcon(Symbol::Information);
+        case SP_MessageBoxWarning:
+            return symbolIcon(Symbol::Warning);
+        case SP_MessageBoxCritical:
+            return symbolIcon(Symbol::Error);
+        case SP_LineEditClearButton:
+        case SP_TitleBarCloseButton:
+            return symbolIcon(Symbol::Close);
+        case SP_ToolBarHorizontalExtensionButton:
+            return symbolIcon(Symbol::More);
+        default:
+            return QProxyStyle::standardIcon(picture, option, widget);
+        }
+    }
+};
+
 } // namespace
 
 void applyTheme(Settings::Theme theme) {
     if (theme == Settings::Theme::System) {
+        QApplication::setStyle(new SymbolStyle); // over the desktop's
         return;
     }
     QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"));
-    QApplication::setStyle(fusion);
+    QApplication::setStyle(new SymbolStyle(fusion));
     QApplication::setPalette(theme == Settings::Theme::Dark ? darkPalette()
                                                             : fusion->standardPalette());
 }

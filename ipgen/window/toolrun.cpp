@@ -1,8 +1,11 @@
 #include "ipgen/window/toolrun.h"
 
+#include "ipgen/window/named.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QTimer>
 
 namespace Window {
@@ -19,6 +22,8 @@ ToolRun::Outcome ToolRun::run(const QString& title, const QStringList& arguments
     progress.setWindowTitle(tr("Working"));
     progress.setMinimumDuration(300);
     progress.setAutoClose(false);
+    auto* cancel = named(new QPushButton(tr("Cancel"), &progress), "progressCancel", tr("Cancel"));
+    progress.setCancelButton(cancel);
     QEventLoop loop;
     connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
             &QEventLoop::quit);

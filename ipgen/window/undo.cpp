@@ -5,17 +5,20 @@
 namespace Window {
 
 InstanceChange::InstanceChange(Workbench* bench, const QVector<Change>& changes,
+                               const QVariantMap& dataBefore, const QVariantMap& dataAfter,
                                const QString& text)
     : QUndoCommand(text)
     , m_bench(bench)
-    , m_changes(changes) {}
+    , m_changes(changes)
+    , m_dataBefore(dataBefore)
+    , m_dataAfter(dataAfter) {}
 
 void InstanceChange::undo() {
     QVector<Workbench::Placement> placements;
     for (const Change& change : qAsConst(m_changes)) {
         placements.append({change.name, change.before});
     }
-    m_bench->put(placements);
+    m_bench->put(placements, m_dataAfter, m_dataBefore);
 }
 
 void InstanceChange::redo() {
@@ -27,7 +30,7 @@ void InstanceChange::redo() {
     for (const Change& change : qAsConst(m_changes)) {
         placements.append({change.name, change.after});
     }
-    m_bench->put(placements);
+    m_bench->put(placements, m_dataBefore, m_dataAfter);
 }
 
 Renaming::Renaming(Workbench* bench, const QString& from, const QString& to)

@@ -1,33 +1,34 @@
 #pragma once
 
-#include "ipgen/core/project.h"
-
 #include <QUndoCommand>
+#include <QVariantMap>
 #include <QVector>
-
-#include <optional>
 
 namespace Window {
 
 class Workbench;
 
-/// Instances that came, went or changed. Made after the fact: the first redo does nothing. A step
-/// that cannot be saved tells the workbench's failed().
+/// Instances that came, went or changed, and what that did to the shared data. Made after the
+/// fact: the first redo does nothing. A step that cannot be saved tells the workbench's failed().
 class InstanceChange : public QUndoCommand {
 public:
+    /// Saved instances with all their keys; empty: there is none.
     struct Change {
         QString name;
-        std::optional<Ipgen::ProjectInstance> before;
-        std::optional<Ipgen::ProjectInstance> after;
+        QVariantMap before;
+        QVariantMap after;
     };
 
-    InstanceChange(Workbench* bench, const QVector<Change>& changes, const QString& text);
+    InstanceChange(Workbench* bench, const QVector<Change>& changes, const QVariantMap& dataBefore,
+                   const QVariantMap& dataAfter, const QString& text);
     void undo() override;
     void redo() override;
 
 private:
     Workbench* m_bench;
     QVector<Change> m_changes;
+    QVariantMap m_dataBefore;
+    QVariantMap m_dataAfter;
     bool m_done = true;
 };
 

@@ -57,6 +57,7 @@ WelcomePage::WelcomePage(QWidget* parent)
 
     auto* forget = new QAction(tr("Take off the list"), m_recent);
     forget->setShortcut(QKeySequence::Delete);
+    forget->setToolTip(tr("Take the project off this list; its files stay"));
     forget->setShortcutContext(Qt::WidgetShortcut);
     m_recent->addAction(forget);
     m_recent->setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -4,6 +4,7 @@
 
 #include "ipgen/window/instancepane.h"
 #include "ipgen/window/named.h"
+#include "ipgen/window/symbols.h"
 #include "ipgen/window/theme.h"
 
 #include <QAction>
@@ -11,16 +12,16 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPainter>
-#include <QStyle>
 #include <QTabWidget>
 #include <QToolBar>
+
+#include <optional>
 
 namespace Window {
 
 namespace {
 
-constexpr int noIcon = -1;
+constexpr std::nullopt_t noIcon = std::nullopt;
 enum Where { MenuOnly, Toolbar };
 
 struct ActionRow {
@@ -29,7 +30,7 @@ struct ActionRow {
     const char* text;
     const char* tip;
     const char* shortcut;
-    int icon; ///< QStyle::StandardPixmap
+    std::optional<Symbol> icon;
     Where where;
     void (MainWindow::*slot)();
 };
@@ -38,20 +39,21 @@ using W = MainWindow;
 
 // clang-format off
 const ActionRow rows[] = {
-    {"new",        QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "&New …"),               QT_TRANSLATE_NOOP("Actions", "Make a project for a device"),                          "Ctrl+N",       QStyle::SP_FileIcon,            Toolbar,  &W::newProject},
-    {"open",       QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "&Open …"),              QT_TRANSLATE_NOOP("Actions", "Open a project folder"),                                "Ctrl+O",       QStyle::SP_DialogOpenButton,    Toolbar,  &W::openProject},
+    {"new",        QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "&New …"),               QT_TRANSLATE_NOOP("Actions", "Make a project for a device"),                          "Ctrl+N",       Symbol::New,            Toolbar,  &W::newProject},
+    {"open",       QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "&Open …"),              QT_TRANSLATE_NOOP("Actions", "Open a project folder"),                                "Ctrl+O",       Symbol::Open,    Toolbar,  &W::openProject},
     {"save",       QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "&Save again"),          QT_TRANSLATE_NOOP("Actions", "Save what an earlier failure kept from being saved"),   "Ctrl+S",       noIcon,                         MenuOnly, &W::save},
     {"reload",     QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "&Reload"),              QT_TRANSLATE_NOOP("Actions", "Read the project and look at its files again"),         "F5",           noIcon,                         MenuOnly, &W::reload},
+    {"exportmap",  QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "Print or &export quad map …"), QT_TRANSLATE_NOOP("Actions", "Write the quad map for paper (PDF) or as a picture (SVG, PNG)"), "Ctrl+P",  Symbol::Print,                  MenuOnly, &W::exportMap},
     {"close",      QT_TRANSLATE_NOOP("Actions", "&Project"),  QT_TRANSLATE_NOOP("Actions", "&Close project"),       QT_TRANSLATE_NOOP("Actions", "Close the project"),                                    "Ctrl+W",       noIcon,                         MenuOnly, &W::closeProject},
-    {"create",     QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "&Create …"),            QT_TRANSLATE_NOOP("Actions", "Create an instance of the IP chosen in the catalogue"), "Ctrl+I",       QStyle::SP_FileDialogNewFolder, Toolbar,  &W::createChosen},
-    {"configure",  QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "C&onfigure …"),         QT_TRANSLATE_NOOP("Actions", "Open the instance in its IP's dialog (or Enter)"),      "Ctrl+E",       QStyle::SP_FileDialogDetailedView, Toolbar, &W::openSelected},
+    {"create",     QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "&Create …"),            QT_TRANSLATE_NOOP("Actions", "Create an instance of the IP chosen in the catalogue"), "Ctrl+I",       Symbol::Create, Toolbar,  &W::createChosen},
+    {"configure",  QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "C&onfigure …"),         QT_TRANSLATE_NOOP("Actions", "Open the instance in its IP's dialog (or Enter)"),      "Ctrl+E",       Symbol::Configure, Toolbar, &W::openSelected},
     {"duplicate",  QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "&Duplicate …"),         QT_TRANSLATE_NOOP("Actions", "Make a copy under another name"),                       "Ctrl+D",       noIcon,                         MenuOnly, &W::duplicate},
     {"rename",     QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "&Rename …"),            QT_TRANSLATE_NOOP("Actions", "Give the instance another name"),                       "F2",           noIcon,                         MenuOnly, &W::rename},
-    {"check",      QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "C&heck"),               QT_TRANSLATE_NOOP("Actions", "Let the IP check the selected instances, without saving"), "F7",        QStyle::SP_DialogApplyButton,   Toolbar,  &W::check},
-    {"generate",   QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "&Generate"),            QT_TRANSLATE_NOOP("Actions", "Write the files of the selected instances"),            "F8",           QStyle::SP_MediaPlay,           Toolbar,  &W::generate},
-    {"generateall",QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "Generate &all"),         QT_TRANSLATE_NOOP("Actions", "Write the files of all instances"),                     "Shift+F8",     QStyle::SP_MediaSkipForward,    Toolbar,  &W::generateAll},
+    {"check",      QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "C&heck"),               QT_TRANSLATE_NOOP("Actions", "Let the IP check the selected instances, without saving"), "F7",        Symbol::Check,   Toolbar,  &W::check},
+    {"generate",   QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "&Generate"),            QT_TRANSLATE_NOOP("Actions", "Write the files of the selected instances"),            "F8",           Symbol::Generate,           Toolbar,  &W::generate},
+    {"generateall",QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "Generate &all"),         QT_TRANSLATE_NOOP("Actions", "Write the files of all instances"),                     "Shift+F8",     Symbol::GenerateAll,    Toolbar,  &W::generateAll},
     {"netlist",    QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "Generate with &netlist"), QT_TRANSLATE_NOOP("Actions", "Write the files and run the netlist generation"),     "F9",           noIcon,                         MenuOnly, &W::netlist},
-    {"remove",     QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "Remo&ve"),              QT_TRANSLATE_NOOP("Actions", "Remove the selected instances; undo brings them back"), "Ctrl+Del",     QStyle::SP_TrashIcon,           Toolbar,  &W::remove},
+    {"remove",     QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "Remo&ve"),              QT_TRANSLATE_NOOP("Actions", "Remove the selected instances; undo brings them back"), "Ctrl+Del",     Symbol::Remove,           Toolbar,  &W::remove},
     {"copycommand",QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "Cop&y command line"),   QT_TRANSLATE_NOOP("Actions", "Copy the command line that generates the selected instances"), "Ctrl+Shift+C", noIcon,                  MenuOnly, &W::copyCommand},
     {"folder",     QT_TRANSLATE_NOOP("Actions", "&Instance"), QT_TRANSLATE_NOOP("Actions", "Open out&put folder"),  QT_TRANSLATE_NOOP("Actions", "Show the generated files in the file manager"),         "Ctrl+Shift+O", noIcon,                         MenuOnly, &W::openOutputFolder},
     {"find",       QT_TRANSLATE_NOOP("Actions", "&View"),     QT_TRANSLATE_NOOP("Actions", "&Find an IP"),          QT_TRANSLATE_NOOP("Actions", "Search the catalogue"),                                 "Ctrl+F",       noIcon,                         MenuOnly, &W::findIp},
@@ -81,6 +83,9 @@ void MainWindow::makeActions() {
     for (const ActionRow& row : rows) {
         auto* action = new QAction(label(row.text), this);
         dress(action, row.name, label(row.tip), QKeySequence(QLatin1String(row.shortcut)));
+        if (row.icon) {
+            action->setIcon(symbolIcon(*row.icon));
+        }
         connect(action, &QAction::triggered, this, row.slot);
         m_actions.insert(QLatin1String(row.name), action);
     }
@@ -95,26 +100,6 @@ void MainWindow::makeActions() {
     dress(quit, "quit", tr("Close the window"), QKeySequence(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, this, &QWidget::close);
     m_actions.insert(QStringLiteral("quit"), quit);
-}
-
-void MainWindow::drawIcons() {
-    const int size = style()->pixelMetric(QStyle::PM_ToolBarIconSize);
-    for (const ActionRow& row : rows) {
-        if (row.icon == noIcon) {
-            continue;
-        }
-        QIcon icon = style()->standardIcon(static_cast<QStyle::StandardPixmap>(row.icon));
-        if (row.icon == QStyle::SP_MediaPlay || row.icon == QStyle::SP_MediaSkipForward) {
-            // These come in black whatever the theme is.
-            QPixmap pixmap = icon.pixmap(size, size);
-            QPainter painter(&pixmap);
-            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-            painter.fillRect(pixmap.rect(), palette().color(QPalette::ButtonText));
-            painter.end();
-            icon = QIcon(pixmap);
-        }
-        m_actions.value(QLatin1String(row.name))->setIcon(icon);
-    }
 }
 
 void MainWindow::makeMenus() {
@@ -164,11 +149,13 @@ void MainWindow::makeMenus() {
         {QT_TRANSLATE_NOOP("Actions", "&System"), Settings::Theme::System},
         {QT_TRANSLATE_NOOP("Actions", "&Light"), Settings::Theme::Light},
         {QT_TRANSLATE_NOOP("Actions", "&Dark"), Settings::Theme::Dark}};
+    const char* themeKeys[] = {"Ctrl+Alt+S", "Ctrl+Alt+L", "Ctrl+Alt+D"};
     for (const auto& [text, value] : themes) {
         QAction* action = theme->addAction(label(text));
+        dress(action, "theme", tr("Colours of the window; System takes effect at the next start"),
+              QKeySequence(QLatin1String(themeKeys[group->actions().size()])));
         action->setCheckable(true);
         action->setChecked(m_settings.theme() == value);
-        action->setToolTip(tr("Colours of the window; System takes effect at the next start"));
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, theme_ = value] {
             m_settings.setTheme(theme_);

@@ -4,6 +4,7 @@
 #include "ipgen/window/instancepane.h"
 #include "ipgen/window/logpane.h"
 #include "ipgen/window/mainwindow.h"
+#include "ipgen/window/mappane.h"
 #include "ipgen/window/named.h"
 #include "ipgen/window/newprojectdialog.h"
 #include "ipgen/window/noticebar.h"
@@ -58,14 +59,16 @@ void MainWindow::openProject() {
 }
 
 void MainWindow::openFolder(const QString& folder) {
-    Status opened = m_bench.openProject(folder);
-    if (!opened.ok()) {
-        tell(opened);
+    Status status = m_bench.openProject(folder);
+    if (!status.ok()) {
+        tell(status);
         return;
     }
-    m_settings.setLastPlace(QFileInfo(m_bench.project().folder()).absolutePath());
-    m_settings.addRecent(m_bench.project().folder());
-    showRecent();
+    afterPaint([this, opened = m_bench.project().folder()] {
+        m_settings.setLastPlace(QFileInfo(opened).absolutePath());
+        m_settings.addRecent(opened);
+        showRecent();
+    });
     if (m_bench.otherUser().isEmpty()) {
         m_notice->clear();
     }
@@ -186,8 +189,8 @@ void MainWindow::duplicate() {
     }
     m_instances->select(copy);
     m_notice->show(NoticeBar::Kind::Information,
-                   tr("%1 holds the same resources and writes to the same folder as %2 until you "
-                      "configure it otherwise.")
+                   tr("%1 is a copy of %2. It holds nothing and is not generated until you "
+                      "configure it (Ctrl+E).")
                        .arg(copy, name));
 }
 
@@ -289,6 +292,13 @@ void MainWindow::generateThese(const QStringList& names) {
 
 void MainWindow::netlist() {
     const QStringList names = targets();
+    for (const QString& name : names) {
+        Status may = m_bench.mayGenerate(name);
+        if (!may.ok()) {
+            tell(may);
+            return;
+        }
+    }
     runTool(tr("Netlist generation of %1").arg(names.join(QStringLiteral(", "))),
             QStringList{QStringLiteral("generate"), m_bench.project().folder()} + names +
                 QStringList{QStringLiteral("--netlist")},
@@ -333,6 +343,32 @@ void MainWindow::copyCommand() {
         QStringList{QStringLiteral("generate"), m_bench.project().folder()} + targets());
     QApplication::clipboard()->setText(line);
     m_notice->show(NoticeBar::Kind::Information, tr("Copied: %1").arg(line));
+}
+
+void MainWindow::exportMap() {
+    const QString folder = m_bench.project().folder();
+    const QString pdf = tr("For paper (*.pdf)");
+    QFileDialog dialog(this, tr("Print or export the quad map"), folder,
+                       QStringList({pdf, tr("Drawing (*.svg)"), tr("Picture (*.png)")})
+                           .join(QStringLiteral(";;")));
+    dialog.setObjectName(QStringLiteral("exportMap"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(QFileInfo(folder).fileName() + QStringLiteral("-quads.pdf"));
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+        dialog.setDefaultSuffix(
+            filter.section(QStringLiteral("*."), 1).section(QLatin1Char(')'), 0, 0));
+    });
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    const QString path = dialog.selectedFiles().value(0);
+    Status written = writeMapSheet(m_map->sheet(), path);
+    if (written.ok()) {
+        m_notice->show(NoticeBar::Kind::Information, tr("Written: %1").arg(path));
+    } else {
+        tell(written);
+    }
 }
 
 void MainWindow::openOutputFolder() {

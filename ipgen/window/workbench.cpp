@@ -8,17 +8,12 @@
 #include <serdesip/serdes.h>
 
 #include <QApplication>
-#include <QCryptographicHash>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QMessageBox>
-#include <QStandardPaths>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <exception>
-#include <functional>
 #include <utility>
 
 namespace Window {
@@ -58,24 +53,6 @@ private:
     QObject m_context; ///< for calls to come
     Core::ViewManager::ErrorSink m_former;
 };
-
-/// An IP's dialog: its failures become a status, and the library's complaints its reasons. What the
-/// user has accepted counts, whatever went wrong before.
-Status runDialog(const QString& name, const std::function<IPSERDESIP::ConfigMap()>& dialog,
-                 IPSERDESIP::ConfigMap* config) {
-    const ErrorBoxes errors;
-    try {
-        *config = dialog();
-    } catch (const std::exception& fault) {
-        return {Exit::Fault, name,
-                Workbench::tr("the IP threw an exception: %1")
-                    .arg(QString::fromLocal8Bit(fault.what()))};
-    }
-    if (config->isEmpty() && !errors.rest().isEmpty()) {
-        return {Exit::Refused, name, errors.rest()};
-    }
-    return {};
-}
 
 } // namespace
 
@@ -128,35 +105,13 @@ Status Workbench::adopt(Ipgen::Project project) {
     closeProject();
     m_project = std::move(project);
     m_device = device;
-    takeLock();
+    m_mark = std::make_unique<OpenMark>(m_project->folder());
     m_watcher.addPath(m_project->file());
     m_watcher.addPath(m_project->folder());
     Status entered = enterModel();
     rebuildRows();
     Q_EMIT projectChanged();
     return entered;
-}
-
-void Workbench::takeLock() {
-    // Beside the user's other run-time files: a project folder may be read-only or shared.
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-    QDir().mkpath(runtime);
-    const QString canonical = QFileInfo(m_project->folder()).canonicalFilePath();
-    const QByteArray digest =
-        QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Sha1).toHex();
-    m_lock = std::make_unique<QLockFile>(runtime + QStringLiteral("/open-") +
-                                         QString::fromLatin1(digest) + QStringLiteral(".lock"));
-    m_lock->setStaleLockTime(0); // held until its process ends
-    m_otherUser.clear();
-    if (!m_lock->tryLock(0)) {
-        qint64 pid = 0;
-        QString host;
-        QString program;
-        m_otherUser = m_lock->getLockInfo(&pid, &host, &program)
-                          ? tr("%1 (process %2)").arg(program).arg(pid)
-                          : tr("another program");
-        m_lock.reset();
-    }
 }
 
 void Workbench::closeProject() {
@@ -172,8 +127,7 @@ void Workbench::closeProject() {
     m_rows.clear();
     m_project.reset();
     m_device = DEV::DeviceArg();
-    m_lock.reset();
-    m_otherUser.clear();
+    m_mark.reset();
     Q_EMIT projectChanged();
 }
 
@@ -206,6 +160,9 @@ void Workbench::onFileChanged() {
     // A replaced file is another file to the watcher.
     if (!m_watcher.files().contains(m_project->file()) && QFileInfo::exists(m_project->file())) {
         m_watcher.addPath(m_project->file());
+    }
+    if (m_inDialog) {
+        return; // its end comes back to this
     }
     if (m_project->changed()) {
         return; // the next save brings both together
@@ -248,12 +205,15 @@ void Workbench::rebuildRows() {
     const QMap<QString, IPSERDESIP::Message> messages = IPSERDESIP::serdes::instance()->messages();
     const QStringList names = m_project->instanceNames();
     m_rows.reserve(names.size());
+    auto message = messages.constBegin(); // both are in the order of names
     for (const QString& name : names) {
-        const auto message = messages.constFind(name);
-        m_rows.append(rowOf(*m_project, m_catalogue, name,
-                            message == messages.constEnd() ? nullptr : &message.value()));
+        while (message != messages.constEnd() && message.key() < name) {
+            ++message;
+        }
+        const bool has = message != messages.constEnd() && message.key() == name;
+        m_rows.append(rowOf(*m_project, m_catalogue, name, has ? &message.value() : nullptr));
     }
-    m_looker.start();
+    look();
 }
 
 const InstanceRow* Workbench::row(const QString& name) const {
@@ -272,16 +232,32 @@ QString Workbench::freeName(const QString& stem) const {
     }
 }
 
+void Workbench::beginLooking() {
+    m_looking = true;
+    look();
+}
+
+void Workbench::look() {
+    if (m_looking) {
+        m_looker.start();
+    }
+}
+
 void Workbench::refreshStates() {
     for (InstanceRow& one : m_rows) {
-        if (one.state != State::NoIp && one.state != State::CheckFailed) {
+        if (one.state != State::NoIp && one.state != State::Copy &&
+            one.state != State::CheckFailed) {
             one.state = State::Unknown;
         }
     }
-    m_looker.start();
+    look();
 }
 
 void Workbench::lookAtSome() {
+    if (m_inDialog) {
+        m_looker.stop(); // a trial borrows the transceiver model, which the dialog is using
+        return;
+    }
     constexpr int some = 8; // a round stays short enough for the window to answer
     QVector<InstanceRow*> rows;
     for (InstanceRow& one : m_rows) {
@@ -297,6 +273,32 @@ void Workbench::lookAtSome() {
     for (const InstanceRow* one : qAsConst(rows)) {
         Q_EMIT stateChanged(one->name);
     }
+}
+
+/// An IP's dialog: its failures become a status, and the library's complaints its reasons. What the
+/// user has accepted counts, whatever went wrong before.
+Status Workbench::runDialog(const QString& name,
+                            const std::function<IPSERDESIP::ConfigMap()>& dialog,
+                            IPSERDESIP::ConfigMap* config) {
+    const ErrorBoxes errors;
+    // What another program changes meanwhile is looked at afterwards: taken over at once, it would
+    // be taken for known, and the accepted dialog would overwrite it.
+    m_inDialog = true;
+    const auto after = qScopeGuard([this] {
+        m_inDialog = false;
+        m_settle.start();
+        look();
+    });
+    try {
+        *config = dialog();
+    } catch (const std::exception& fault) {
+        return {Exit::Fault, name,
+                tr("the IP threw an exception: %1").arg(QString::fromLocal8Bit(fault.what()))};
+    }
+    if (config->isEmpty() && !errors.rest().isEmpty()) {
+        return {Exit::Refused, name, errors.rest()};
+    }
+    return {};
 }
 
 Status Workbench::createInstance(const QString& name, const QString& ip, bool* accepted) {
@@ -351,28 +353,34 @@ Status Workbench::openInstance(const QString& name, bool* accepted) {
 
 Status Workbench::accept(const QString& name, const QString& ip,
                          const IPSERDESIP::ConfigMap& config, const QString& what) {
-    std::optional<Ipgen::ProjectInstance> before;
-    if (m_project->hasInstance(name)) {
-        before = m_project->instance(name);
-    }
-    const Ipgen::ProjectInstance after{ip, config};
+    const QVariantMap before = m_project->savedInstance(name);
+    const QVariantMap dataBefore = m_project->data();
     m_project->takeModelData();
-    m_project->setInstance(name, after);
+    m_project->setInstance(name, {ip, config});
+    const QVariantMap after = m_project->savedInstance(name);
+    const QVariantMap dataAfter = m_project->data();
     Status saved = saveProject();
     if (saved.ok()) {
-        m_undo.push(new InstanceChange(this, {{name, before, after}}, what));
+        m_undo.push(new InstanceChange(this, {{name, before, after}}, dataBefore, dataAfter, what));
     }
     return saved;
 }
 
-void Workbench::put(const QVector<Placement>& placements) {
+void Workbench::put(const QVector<Placement>& placements, const QVariantMap& from,
+                    const QVariantMap& to) {
     for (const Placement& one : placements) {
-        if (one.instance) {
-            m_project->setInstance(one.name, *one.instance);
-        } else {
-            m_project->removeInstance(one.name);
+        m_project->putSavedInstance(one.name, one.saved);
+    }
+    QVariantMap data = m_project->data();
+    const QStringList keys = from.keys() + to.keys();
+    for (const QString& key : keys) {
+        if (!to.contains(key)) {
+            data.remove(key);
+        } else if (from.value(key) != to.value(key)) {
+            data.insert(key, to.value(key));
         }
     }
+    m_project->setData(data);
     Status saved = saveProject();
     if (!saved.ok()) {
         Q_EMIT failed(saved);
@@ -395,8 +403,14 @@ Status Workbench::duplicateInstance(const QString& name, const QString& copy) {
     if (m_project->hasInstance(copy)) {
         return {Exit::Refused, copy, tr("there is an instance of this name already")};
     }
-    const Ipgen::ProjectInstance instance = m_project->instance(name);
-    return accept(copy, instance.ip, instance.config, tr("duplicate %1").arg(name));
+    m_project->copyInstance(name, copy);
+    const QVariantMap after = m_project->savedInstance(copy);
+    Status saved = saveProject();
+    if (saved.ok()) {
+        m_undo.push(
+            new InstanceChange(this, {{copy, {}, after}}, {}, {}, tr("duplicate %1").arg(name)));
+    }
+    return saved;
 }
 
 Status Workbench::renameInstance(const QString& from, const QString& to) {
@@ -419,18 +433,36 @@ Status Workbench::removeInstances(const QStringList& names) {
     QVector<InstanceChange::Change> changes;
     for (const QString& name : names) {
         if (m_project->hasInstance(name)) {
-            changes.append({name, m_project->instance(name), std::nullopt});
+            changes.append({name, m_project->savedInstance(name), {}});
             m_project->removeInstance(name);
         }
     }
     Status saved = saveProject();
     if (saved.ok() && !changes.isEmpty()) {
-        m_undo.push(new InstanceChange(this, changes,
+        m_undo.push(new InstanceChange(this, changes, {}, {},
                                        names.size() == 1
                                            ? tr("remove %1").arg(names.first())
                                            : tr("remove instances (%1)").arg(names.size())));
     }
     return saved;
+}
+
+Status Workbench::mayGenerate(const QString& name) const {
+    Status configured = m_project->checkConfigured(name);
+    if (!configured.ok()) {
+        return configured;
+    }
+    const InstanceRow* mine = row(name);
+    for (const InstanceRow& other : m_rows) {
+        if (mine != nullptr && !mine->file.isEmpty() && other.name != name &&
+            other.file == mine->file) {
+            return {Exit::Refused, name,
+                    tr("%1 writes to the same folder, \"%2\"; nothing was written. Give one of "
+                       "them another file name.")
+                        .arg(other.name, mine->file)};
+        }
+    }
+    return {};
 }
 
 Ipgen::GenerationResult Workbench::generateInstance(const QString& name, bool netlist) {
@@ -440,6 +472,9 @@ Ipgen::GenerationResult Workbench::generateInstance(const QString& name, bool ne
     result.status = m_project->checkKnown(name);
     if (result.status.ok()) {
         result.status = m_catalogue.pick(instance.ip, &entry);
+    }
+    if (result.status.ok()) {
+        result.status = mayGenerate(name);
     }
     if (!result.status.ok()) {
         return result;
@@ -456,24 +491,24 @@ Ipgen::GenerationResult Workbench::generateInstance(const QString& name, bool ne
     result = Ipgen::generate(request);
     FileHistory::keepChanged(before);
     for (InstanceRow& one : m_rows) {
-        if (one.name == name && one.state != State::CheckFailed) {
+        if (one.name == name && one.state != State::Copy && one.state != State::CheckFailed) {
             one.state = State::Unknown;
         }
     }
-    m_looker.start();
+    look();
     Q_EMIT filesGenerated(name);
     return result;
 }
 
 void Workbench::setChecked(const QString& name, const Status& verdict) {
     for (InstanceRow& one : m_rows) {
-        if (one.name == name && one.state != State::NoIp) {
+        if (one.name == name && one.state != State::NoIp && one.state != State::Copy) {
             one.state = verdict.ok() ? State::Unknown : State::CheckFailed;
             one.detail = verdict.ok() ? QString() : verdict.text();
             Q_EMIT stateChanged(name);
         }
     }
-    m_looker.start();
+    look();
 }
 
 } // namespace Window

@@ -5,6 +5,7 @@
 #include "ipgen/core/project.h"
 #include "ipgen/core/status.h"
 #include "ipgen/window/instancestate.h"
+#include "ipgen/window/openmark.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -12,10 +13,9 @@
 #include <QUndoStack>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 #include <optional>
-
-class QLockFile;
 
 namespace Window {
 
@@ -47,7 +47,7 @@ public:
     /// Null without a project.
     const DEV::DeviceArg& device() const { return m_device; }
     /// Not empty: who else has the project open.
-    QString otherUser() const { return m_otherUser; }
+    QString otherUser() const { return m_mark ? m_mark->other() : QString(); }
 
     const QVector<InstanceRow>& rows() const { return m_rows; }
     /// Null when there is none of the name.
@@ -62,23 +62,28 @@ public:
     Ipgen::Status duplicateInstance(const QString& name, const QString& copy);
     Ipgen::Status renameInstance(const QString& from, const QString& to);
     Ipgen::Status removeInstances(const QStringList& names);
-    /// Writes the files of one instance.
+    /// Refused: a copy that is not configured, or another instance writes to the same folder.
+    Ipgen::Status mayGenerate(const QString& name) const;
+    /// Writes the files of one instance, if it may.
     Ipgen::GenerationResult generateInstance(const QString& name, bool netlist);
     /// What the IP's own checks said.
     void setChecked(const QString& name, const Ipgen::Status& verdict);
     /// Looks at the files again; the states come with stateChanged().
     void refreshStates();
+    /// Until this is called, states stay Unknown: the window shows itself first.
+    void beginLooking();
 
     QUndoStack* undoStack() { return &m_undo; }
 
     // For the undo commands; a failure comes as failed().
 
-    /// An instance as it shall be; none: away.
+    /// A saved instance as it shall be; empty: away.
     struct Placement {
         QString name;
-        std::optional<Ipgen::ProjectInstance> instance;
+        QVariantMap saved;
     };
-    void put(const QVector<Placement>& placements);
+    /// Of the shared data, what differs between `from` and `to` becomes as in `to`.
+    void put(const QVector<Placement>& placements, const QVariantMap& from, const QVariantMap& to);
     void rename(const QString& from, const QString& to);
 
 Q_SIGNALS:
@@ -95,12 +100,15 @@ private:
     Ipgen::Status adopt(Ipgen::Project project);
     Ipgen::Status enterModel();
     Ipgen::Status saveProject();
+    Ipgen::Status runDialog(const QString& name,
+                            const std::function<IPSERDESIP::ConfigMap()>& dialog,
+                            IPSERDESIP::ConfigMap* config);
     Ipgen::Status accept(const QString& name, const QString& ip,
                          const IPSERDESIP::ConfigMap& config, const QString& what);
     void rebuildRows();
     void lookAtSome();
+    void look();
     void onFileChanged();
-    void takeLock();
 
     bool m_hostLoaded = false;
     Ipgen::Catalogue m_catalogue;
@@ -109,10 +117,11 @@ private:
     QVector<InstanceRow> m_rows;
     QUndoStack m_undo;
     QTimer m_looker;
-    QTimer m_settle; ///< another program may write in several steps
+    bool m_looking = false;
+    bool m_inDialog = false; ///< an IP's dialog is open: what it works on stays as it is
+    QTimer m_settle;         ///< another program may write in several steps
     QFileSystemWatcher m_watcher;
-    std::unique_ptr<QLockFile> m_lock;
-    QString m_otherUser;
+    std::unique_ptr<OpenMark> m_mark;
 };
 
 } // namespace Window

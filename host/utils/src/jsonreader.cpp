@@ -10,6 +10,7 @@
 #include <iterator>
 #include <limits>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace Utils {
@@ -141,8 +142,15 @@ public:
     }
     bool key(std::string& value) override {
         Frame& frame = m_frames.back();
-        frame.key = fromUtf8(value);
-        if (frame.map.contains(frame.key)) {
+        // A large project has few keys, many times each: one copy serves them all.
+        QString& shared = m_keys[value];
+        if (shared.isNull()) {
+            shared = fromUtf8(value);
+        }
+        frame.key = shared;
+        // The program's own files have their keys in order.
+        const bool inOrder = frame.map.isEmpty() || frame.map.lastKey() < frame.key;
+        if (!inOrder && frame.map.contains(frame.key)) {
             return fail(startOfKey(),
                         QStringLiteral("the key \"%1\" is given twice").arg(frame.key));
         }
@@ -194,7 +202,7 @@ private:
         }
         Frame& frame = m_frames.back();
         if (frame.isObject) {
-            frame.map.insert(frame.key, value);
+            frame.map.insert(frame.map.constEnd(), frame.key, value); // the likely place
         } else {
             frame.allTexts = frame.allTexts && value.userType() == QMetaType::QString;
             frame.list.append(value);
@@ -233,6 +241,7 @@ private:
     std::vector<Frame> m_frames;
     QStringList m_wanted;
     QString m_wantedReason;
+    std::unordered_map<std::string, QString> m_keys;
 };
 
 bool read(const QByteArray& text, Builder* builder, int* offset) {

@@ -3,20 +3,29 @@
 
 #include "ipgen/window/mainwindow.h"
 #include "ipgen/window/noticebar.h"
+#include "ipgen/window/settings.h"
 
 #include <serdesip/protocolgendlg.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFileDialog>
+#include <QImage>
 #include <QInputDialog>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QPainter>
 #include <QProcess>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QSvgRenderer>
 #include <QTableView>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -42,6 +51,11 @@ private Q_SLOTS:
     void sameBytesAsTheCommand();
     void statesFollowTheFiles();
     void removeAndUndo();
+    void undoBringsEveryKeyBack();
+    void copyWaitsToBeConfigured();
+    void twoOfOneFolderAreNotGenerated();
+    void mapForPaper_data();
+    void mapForPaper();
     void secondWindowIsTold();
     void changesFromOutsideShowUp();
     void damagedProjectIsReported();
@@ -141,6 +155,11 @@ QString MainWindowTest::noticeText() const {
 
 void MainWindowTest::everyFocusableWidgetHasAName() {
     m_window->openFolder(example(2));
+    // Pages are made when they are looked at.
+    auto* views = m_window->findChild<QTabWidget*>(QStringLiteral("views"));
+    for (int i = 0; i < views->count(); ++i) {
+        views->setCurrentIndex(i);
+    }
     QStringList nameless;
     const QList<QWidget*> all = m_window->findChildren<QWidget*>();
     int looked = 0;
@@ -160,30 +179,56 @@ void MainWindowTest::everyFocusableWidgetHasAName() {
             }
         }
     }
+    for (const char* name : {"catalogueSearch", "instanceTable", "resourceTable", "fileList",
+                             "fileText", "summaryText", "log"}) {
+        QVERIFY2(m_window->findChild<QWidget*>(QLatin1String(name)) != nullptr, name);
+    }
     QVERIFY(looked > 8);
     QCOMPARE(nameless.join(QStringLiteral(", ")), QString());
 }
 
 void MainWindowTest::everyActionHasTextKeyAndTip() {
+    // A project among the recent ones, so that their menu has something.
+    m_window->openFolder(example(1));
+    QTRY_VERIFY(!Settings().recentProjects().isEmpty());
     QStringList poor;
     QHash<QString, QString> keys;
     int looked = 0;
-    const QList<QAction*> all = m_window->findChildren<QAction*>();
-    for (const QAction* action : all) {
-        if (action->objectName().isEmpty() || action->isSeparator() || action->menu() != nullptr ||
-            action->objectName().startsWith(QLatin1Char('_'))) {
-            continue; // Qt's own
+    // Every action of every menu, as the menu bar leads to them.
+    std::function<void(const QList<QAction*>&)> look = [&](const QList<QAction*>& actions) {
+        for (QAction* action : actions) {
+            if (action->isSeparator()) {
+                continue;
+            }
+            if (action->menu() != nullptr) {
+                look(action->menu()->actions());
+                continue;
+            }
+            ++looked;
+            const QString key = action->shortcut().toString();
+            // A tooltip that nobody gave is the text again.
+            QString plain = action->text();
+            plain.remove(QLatin1Char('&')).remove(QStringLiteral(" …"));
+            if (action->text().isEmpty() || key.isEmpty() || action->toolTip().isEmpty() ||
+                action->toolTip() == plain || keys.contains(key)) {
+                poor.append(action->text());
+            }
+            keys.insert(key, action->text());
         }
-        ++looked;
-        const QString key = action->shortcut().toString();
-        if (action->text().isEmpty() || key.isEmpty() || action->toolTip().isEmpty() ||
-            keys.contains(key)) {
-            poor.append(action->objectName());
-        }
-        keys.insert(key, action->objectName());
-    }
-    QVERIFY(looked > 20);
+    };
+    look(m_window->menuBar()->actions());
+    QVERIFY(looked > 28);
     QCOMPARE(poor.join(QStringLiteral(", ")), QString());
+    // What assistive tools are told of a menu's entries.
+    const QList<QMenu*> menus = m_window->findChildren<QMenu*>();
+    for (QMenu* menu : menus) {
+        QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(menu);
+        for (int i = 0; i < interface->childCount(); ++i) {
+            const QAccessibleInterface* entry = interface->child(i);
+            QVERIFY(entry->role() == QAccessible::Separator ||
+                    !entry->text(QAccessible::Name).isEmpty());
+        }
+    }
 }
 
 void MainWindowTest::mainPathByKeyboard() {
@@ -343,6 +388,119 @@ void MainWindowTest::removeAndUndo() {
     QCOMPARE(m_window->workbench()->rows().size(), 0);
 }
 
+void MainWindowTest::undoBringsEveryKeyBack() {
+    const QString folder = example(2);
+    const QString path = folder + QStringLiteral("/project.json");
+    QJsonObject document = QJsonDocument::fromJson(bytesOf(path)).object();
+    QJsonObject instances = document[QStringLiteral("instances")].toObject();
+    QJsonObject link = instances[QStringLiteral("link0")].toObject();
+    link[QStringLiteral("note")] = QStringLiteral("of another program");
+    instances[QStringLiteral("link0")] = link;
+    document[QStringLiteral("instances")] = instances;
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QJsonDocument(document).toJson());
+    file.close();
+    m_window->openFolder(folder);
+    Workbench* bench = m_window->workbench();
+    // The program's own form of the file.
+    QVERIFY(bench->renameInstance(QStringLiteral("link1"), QStringLiteral("other")).ok());
+    const QByteArray before = bytesOf(path);
+    QVERIFY(before.contains("of another program"));
+    QVERIFY(bench->removeInstances({QStringLiteral("link0")}).ok());
+    QVERIFY(!bytesOf(path).contains("of another program"));
+    bench->undoStack()->undo();
+    QCOMPARE(bytesOf(path), before);
+    bench->undoStack()->redo();
+    QVERIFY(!bytesOf(path).contains("link0"));
+}
+
+void MainWindowTest::copyWaitsToBeConfigured() {
+    const QString folder = example(1);
+    m_window->openFolder(folder);
+    Workbench* bench = m_window->workbench();
+    const QByteArray before = bytesOf(folder + QStringLiteral("/project.json"));
+    const QString link = QStringLiteral("link0");
+    const QString copy = QStringLiteral("copy");
+    QVERIFY(bench->duplicateInstance(link, copy).ok());
+    QVERIFY(bench->row(copy)->state == State::Copy);
+    QVERIFY(bench->row(copy)->detail.contains(link));
+    // The original is as it was; the copy is left out, here and by the command.
+    m_window->action("generateall")->trigger();
+    QVERIFY2(noticeText().contains(QStringLiteral("copy: is a copy of link0")),
+             qPrintable(noticeText()));
+    QTRY_VERIFY(bench->row(link)->state == State::Generated);
+    QVERIFY(bench->row(copy)->state == State::Copy);
+    QCOMPARE(runProgram({QStringLiteral("generate"), folder, link}), 0);
+    QCOMPARE(runProgram({QStringLiteral("generate"), folder, copy}), 1);
+    // Accepting it in its dialog, whoever does it, makes it an instance like the others.
+    Ipgen::Project project;
+    QVERIFY(Ipgen::Project::load(folder, &project).ok());
+    QCOMPARE(project.copiedFrom(copy), link);
+    Ipgen::ProjectInstance configured = project.instance(copy);
+    configured.config.insert(QStringLiteral("file"), copy);
+    project.setInstance(copy, configured);
+    QVERIFY(project.save().ok());
+    QTRY_VERIFY(bench->row(copy)->state == State::Configured);
+    QVERIFY(bench->generateInstance(copy, false).ok);
+    QVERIFY(bench->removeInstances({copy}).ok());
+    bench->undoStack()->undo();
+    QVERIFY(bench->row(copy) != nullptr);
+    bench->undoStack()->undo();
+    bench->undoStack()->undo();
+    QCOMPARE(bytesOf(folder + QStringLiteral("/project.json")), before);
+}
+
+void MainWindowTest::twoOfOneFolderAreNotGenerated() {
+    const QString folder = example(2);
+    Ipgen::Project project;
+    QVERIFY(Ipgen::Project::load(folder, &project).ok());
+    Ipgen::ProjectInstance second = project.instance(QStringLiteral("link1"));
+    second.config.insert(QStringLiteral("file"), QStringLiteral("link0"));
+    project.setInstance(QStringLiteral("link1"), second);
+    QVERIFY(project.save().ok());
+    m_window->openFolder(folder);
+    m_window->action("generateall")->trigger();
+    QVERIFY(!QFileInfo::exists(m_window->workbench()->project().workingDir() +
+                               QStringLiteral("/link0")));
+    QVERIFY2(noticeText().contains(QStringLiteral("link1 writes to the same folder")),
+             qPrintable(noticeText()));
+}
+
+void MainWindowTest::mapForPaper_data() {
+    QTest::addColumn<QByteArray>("begin");
+    QTest::newRow("pdf") << QByteArray("%PDF-");
+    QTest::newRow("svg") << QByteArray("<?xml");
+    QTest::newRow("png") << QByteArray("\x89PNG");
+}
+
+void MainWindowTest::mapForPaper() {
+    QFETCH(QByteArray, begin);
+    m_window->openFolder(example(2));
+    const QString path =
+        m_place->filePath(QStringLiteral("map.") + QLatin1String(QTest::currentDataTag()));
+    whenShown<QFileDialog>([&](QFileDialog* dialog) {
+        auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(edit, path);
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
+    QTest::keyClick(m_window.get(), Qt::Key_P, Qt::ControlModifier);
+    QVERIFY2(noticeText().contains(path), qPrintable(noticeText()));
+    const QByteArray bytes = bytesOf(path);
+    QVERIFY(bytes.startsWith(begin));
+    if (begin == "<?xml") {
+        QSvgRenderer svg(bytes);
+        QVERIFY(svg.isValid());
+        QImage image(svg.defaultSize(), QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QPainter painter(&image);
+        svg.render(&painter);
+        painter.end();
+        QCOMPARE(image.pixelColor(image.width() - 2, image.height() - 2), QColor(Qt::white));
+    }
+}
+
 void MainWindowTest::secondWindowIsTold() {
     const QString folder = example(1);
     m_window->openFolder(folder);
@@ -368,8 +526,14 @@ void MainWindowTest::changesFromOutsideShowUp() {
     const QString folder = example(2);
     m_window->openFolder(folder);
     QCOMPARE(m_window->workbench()->rows().size(), 2);
-    QCOMPARE(runProgram({QStringLiteral("remove"), folder, QStringLiteral("link1")}), 0);
+    // What is chosen stays chosen, although the table is another.
+    auto* table = m_window->findChild<QTableView*>(QStringLiteral("instanceTable"));
+    table->selectRow(1);
+    QCOMPARE(runProgram({QStringLiteral("remove"), folder, QStringLiteral("link0")}), 0);
     QTRY_COMPARE(m_window->workbench()->rows().size(), 1);
+    QCOMPARE(table->selectionModel()->selectedRows().size(), 1);
+    QCOMPARE(table->currentIndex().row(), 0);
+    QVERIFY(m_window->action("duplicate")->isEnabled());
 }
 
 void MainWindowTest::damagedProjectIsReported() {

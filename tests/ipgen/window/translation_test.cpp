@@ -72,10 +72,22 @@ void TranslationTest::cleanup() {
 
 void TranslationTest::everyTextIsTranslated() {
     MainWindow window;
+    window.show(); // the first page; the views are made when they are looked at
+    window.start({}, QString());
+    QVERIFY(window.workbench()
+                ->newProject(m_home.filePath(QStringLiteral("all")), QStringLiteral("RZ7X-60B"))
+                .ok());
+    auto* views = window.findChild<QTabWidget*>(QStringLiteral("views"));
+    for (int i = 0; i < views->count(); ++i) {
+        views->setCurrentIndex(i);
+    }
     QStringList plain;
     int looked = 0;
+    // What these show has its name from the user or from the device database.
+    const QStringList names{QStringLiteral("projectLabel"), QStringLiteral("folderLabel"),
+                            QStringLiteral("deviceLabel")};
     const auto look = [&](const QObject* object, const QString& text) {
-        if (!text.isEmpty()) {
+        if (!text.isEmpty() && !names.contains(object->objectName())) {
             ++looked;
             if (!text.contains(QLatin1Char('['))) {
                 plain.append(object->objectName() + QStringLiteral(": ") + text);
