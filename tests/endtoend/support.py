@@ -24,6 +24,10 @@ def main():
     unittest.main(module="__main__", verbosity=2)
 
 
+def build_folder():
+    return _build
+
+
 def put(name, value):
     return {"set": name, "to": value}
 

@@ -1,0 +1,243 @@
+// A Qt generic plug-in that the end-to-end tests load into the program under test: it tells where
+// things are on the screen and what they show, so that the tests can move a real mouse there and
+// wait for conditions. It changes nothing.
+//
+// WINDOW_PROBE holds two file descriptors, "READ,WRITE": a JSON object a line each way.
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QGenericPlugin>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSocketNotifier>
+#include <QTabWidget>
+#include <QWidget>
+
+#include <cstddef>
+#include <unistd.h>
+
+namespace {
+
+QJsonObject placeOf(const QWidget* widget, const QRect& rect) {
+    const QPoint at = widget->mapToGlobal(rect.topLeft());
+    return {{QStringLiteral("x"), at.x()},
+            {QStringLiteral("y"), at.y()},
+            {QStringLiteral("width"), rect.width()},
+            {QStringLiteral("height"), rect.height()}};
+}
+
+QString accessibleName(QWidget* widget) {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
+    return interface != nullptr ? interface->text(QAccessible::Name) : QString();
+}
+
+QString textOf(const QWidget* widget) {
+    if (const auto* edit = qobject_cast<const QPlainTextEdit*>(widget)) {
+        return edit->toPlainText();
+    }
+    for (const char* property : {"text", "currentText", "labelText", "plainText"}) {
+        const QVariant value = widget->property(property);
+        if (value.isValid()) {
+            return value.toString();
+        }
+    }
+    return {};
+}
+
+/// The rows of a view, those of branches below them.
+void addRows(const QAbstractItemModel* model, const QModelIndex& parent, QJsonArray* rows) {
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        QJsonArray texts;
+        for (int column = 0; column < model->columnCount(parent); ++column) {
+            texts.append(model->index(row, column, parent).data().toString());
+        }
+        rows->append(texts);
+        addRows(model, model->index(row, 0, parent), rows);
+    }
+}
+
+QModelIndex indexOf(const QAbstractItemModel* model, const QModelIndex& parent,
+                    const QString& text) {
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        for (int column = 0; column < model->columnCount(parent); ++column) {
+            const QModelIndex index = model->index(row, column, parent);
+            if (index.data().toString() == text) {
+                return index;
+            }
+        }
+        const QModelIndex below = indexOf(model, model->index(row, 0, parent), text);
+        if (below.isValid()) {
+            return below;
+        }
+    }
+    return {};
+}
+
+QJsonObject describe(QWidget* widget) {
+    QJsonObject about = placeOf(widget, widget->rect());
+    about[QStringLiteral("class")] = QLatin1String(widget->metaObject()->className());
+    about[QStringLiteral("name")] = widget->objectName();
+    about[QStringLiteral("accessible")] = accessibleName(widget);
+    about[QStringLiteral("text")] = textOf(widget);
+    about[QStringLiteral("enabled")] = widget->isEnabled();
+    about[QStringLiteral("focus")] = widget->hasFocus();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+        about[QStringLiteral("checked")] = button->isChecked();
+    }
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(widget)) {
+        QJsonArray rows;
+        addRows(view->model(), {}, &rows);
+        about[QStringLiteral("rows")] = rows;
+    }
+    if (const auto* tabs = qobject_cast<const QTabWidget*>(widget)) {
+        about[QStringLiteral("current")] = tabs->currentIndex();
+    }
+    return about;
+}
+
+QList<QWidget*> visible(const QString& name) {
+    QList<QWidget*> found;
+    const QWidgetList all = QApplication::allWidgets();
+    for (QWidget* widget : all) {
+        if (widget->isVisible() && widget->objectName() == name) {
+            found.append(widget);
+        }
+    }
+    return found;
+}
+
+QJsonArray windows() {
+    QJsonArray list;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    for (QWidget* widget : all) {
+        if (widget->isVisible() && widget->windowType() != Qt::ToolTip) {
+            QJsonObject about = describe(widget);
+            about[QStringLiteral("title")] = widget->windowTitle();
+            about[QStringLiteral("id")] = double(widget->winId());
+            about[QStringLiteral("active")] = widget->isActiveWindow();
+            about[QStringLiteral("modal")] = widget == QApplication::activeModalWidget();
+            list.append(about);
+        }
+    }
+    return list;
+}
+
+/// What the keyboard can reach and a screen reader could not name.
+QJsonArray nameless() {
+    QJsonArray list;
+    const QWidgetList all = QApplication::allWidgets();
+    for (QWidget* widget : all) {
+        if (widget->isVisible() && widget->isEnabled() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr &&
+            accessibleName(widget).isEmpty()) {
+            list.append(QStringLiteral("%1 \"%2\" of \"%3\"")
+                            .arg(QLatin1String(widget->metaObject()->className()),
+                                 widget->objectName(), widget->window()->windowTitle()));
+        }
+    }
+    return list;
+}
+
+QJsonValue answer(const QJsonObject& request) {
+    const QString what = request[QStringLiteral("what")].toString();
+    const QString name = request[QStringLiteral("name")].toString();
+    if (what == QLatin1String("windows")) {
+        return windows();
+    }
+    if (what == QLatin1String("nameless")) {
+        return nameless();
+    }
+    if (what == QLatin1String("clipboard")) {
+        return QApplication::clipboard()->text();
+    }
+    if (what == QLatin1String("focus")) {
+        QWidget* widget = QApplication::focusWidget();
+        return widget != nullptr ? QJsonValue(describe(widget)) : QJsonValue();
+    }
+    const QList<QWidget*> found = visible(name);
+    if (found.isEmpty()) {
+        return {};
+    }
+    if (what == QLatin1String("find")) {
+        return describe(found.first());
+    }
+    const QString item = request[QStringLiteral("item")].toString();
+    if (what == QLatin1String("item")) { // of a view, by its text
+        const auto* view = qobject_cast<const QAbstractItemView*>(found.first());
+        const QModelIndex index =
+            view != nullptr ? indexOf(view->model(), {}, item) : QModelIndex();
+        const QRect place = index.isValid() ? view->visualRect(index) : QRect();
+        // Only what can be seen can be clicked.
+        return view != nullptr && view->viewport()->rect().contains(place.center())
+                   ? QJsonValue(placeOf(view->viewport(), place))
+                   : QJsonValue();
+    }
+    if (what == QLatin1String("resource")) { // of the map
+        QRectF place;
+        QMetaObject::invokeMethod(found.first(), "placeOf", Q_RETURN_ARG(QRectF, place),
+                                  Q_ARG(QString, item));
+        return place.isEmpty() ? QJsonValue() : placeOf(found.first(), place.toRect());
+    }
+    return {};
+}
+
+class Probe : public QObject {
+public:
+    Probe(int in, int out)
+        : m_out(out)
+        , m_in(in)
+        , m_notifier(in, QSocketNotifier::Read) {
+        connect(&m_notifier, &QSocketNotifier::activated, this, &Probe::read);
+    }
+
+private:
+    void read() {
+        char bytes[4096];
+        const ssize_t size = ::read(m_in, bytes, sizeof bytes);
+        if (size <= 0) {
+            m_notifier.setEnabled(false);
+            return;
+        }
+        m_text.append(bytes, int(size));
+        for (int end = m_text.indexOf('\n'); end >= 0; end = m_text.indexOf('\n')) {
+            const QJsonObject request = QJsonDocument::fromJson(m_text.left(end)).object();
+            m_text.remove(0, end + 1);
+            const QJsonObject reply{{QStringLiteral("is"), answer(request)}};
+            QByteArray line = QJsonDocument(reply).toJson(QJsonDocument::Compact) + '\n';
+            while (!line.isEmpty()) {
+                const ssize_t written = ::write(m_out, line.constData(), std::size_t(line.size()));
+                if (written <= 0) {
+                    return;
+                }
+                line.remove(0, int(written));
+            }
+        }
+    }
+
+    int m_out;
+    int m_in;
+    QSocketNotifier m_notifier;
+    QByteArray m_text;
+};
+
+} // namespace
+
+class ProbePlugin : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "probe.json")
+
+public:
+    QObject* create(const QString&, const QString&) override {
+        const QList<QByteArray> ends = qgetenv("WINDOW_PROBE").split(',');
+        return ends.size() == 2 ? new Probe(ends.at(0).toInt(), ends.at(1).toInt()) : nullptr;
+    }
+};
+
+#include "probe.moc"
