@@ -191,6 +191,14 @@
         <source>&amp;Dark</source>
         <translation>&amp;Dunkel</translation>
     </message>
+    <message>
+        <source>Print or &amp;export quad map …</source>
+        <translation>Quad-Plan drucken oder &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Write the quad map for paper (PDF) or as a picture (SVG, PNG)</source>
+        <translation>Den Quad-Plan für Papier (PDF) oder als Bild (SVG, PNG) schreiben</translation>
+    </message>
 </context>
 <context>
     <name>IPSERDESIP::FieldKeeper</name>
@@ -409,6 +417,28 @@
     </message>
 </context>
 <context>
+    <name>MarkTexts</name>
+    <message>
+        <source>another program</source>
+        <translation>einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>%1 (process %2)</source>
+        <translation>%1 (Prozess %2)</translation>
+    </message>
+</context>
+<context>
+    <name>SheetTexts</name>
+    <message>
+        <source>⚠ %1 (%2): %3</source>
+        <translation>⚠ %1 (%2): %3</translation>
+    </message>
+    <message>
+        <source>the file&apos;s name ends in .pdf, .svg or .png</source>
+        <translation>der Dateiname endet auf .pdf, .svg oder .png</translation>
+    </message>
+</context>
+<context>
     <name>StateTexts</name>
     <message>
         <source>%1 is missing</source>
@@ -441,6 +471,14 @@
     <message>
         <source>check failed</source>
         <translation>Prüfung nicht bestanden</translation>
+    </message>
+    <message>
+        <source>A copy of %1: configure it (Ctrl+E), so that it has lanes and a file of its own. Until then it holds nothing and is not generated.</source>
+        <translation>Eine Kopie von %1: bitte konfigurieren (Strg+E), damit sie eigene Lanes und eine eigene Datei hat. Bis dahin belegt sie nichts und wird nicht generiert.</translation>
+    </message>
+    <message>
+        <source>needs configuring</source>
+        <translation>zu konfigurieren</translation>
     </message>
 </context>
 <context>
@@ -745,8 +783,8 @@ Choose an IP in the catalogue and press “Create instance” (Ctrl+I).</source>
 Im Katalog eine IP wählen und „Instanz anlegen“ drücken (Strg+I).</translation>
     </message>
     <message>
-        <source>&lt;b&gt;Instances&lt;/b&gt;</source>
-        <translation>&lt;b&gt;Instanzen&lt;/b&gt;</translation>
+        <source>Instances</source>
+        <translation>Instanzen</translation>
     </message>
 </context>
 <context>
@@ -907,10 +945,6 @@ Im Katalog eine IP wählen und „Instanz anlegen“ drücken (Strg+I).</transla
         <translation>Name der Kopie von %1:</translation>
     </message>
     <message>
-        <source>%1 holds the same resources and writes to the same folder as %2 until you configure it otherwise.</source>
-        <translation>%1 belegt dieselben Ressourcen und schreibt in denselben Ordner wie %2, bis es anders konfiguriert wird.</translation>
-    </message>
-    <message>
         <source>Rename</source>
         <translation>Umbenennen</translation>
     </message>
@@ -990,6 +1024,38 @@ Im Katalog eine IP wählen und „Instanz anlegen“ drücken (Strg+I).</transla
         <source>&lt;h3&gt;IP generator %1&lt;/h3&gt;&lt;p&gt;Configures and generates FPGA IPs from plug-ins. The same program on the command line: &lt;tt&gt;ipgen --help&lt;/tt&gt;.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;IP-Generator %1&lt;/h3&gt;&lt;p&gt;Konfiguriert und generiert FPGA-IPs aus Plug-ins. Dasselbe Programm auf der Kommandozeile: &lt;tt&gt;ipgen --help&lt;/tt&gt;.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Folder of the project</source>
+        <translation>Ordner des Projekts</translation>
+    </message>
+    <message>
+        <source>About the device</source>
+        <translation>Zum Baustein</translation>
+    </message>
+    <message>
+        <source>%1 is a copy of %2. It holds nothing and is not generated until you configure it (Ctrl+E).</source>
+        <translation>%1 ist eine Kopie von %2. Sie belegt nichts und wird nicht generiert, bis sie konfiguriert ist (Strg+E).</translation>
+    </message>
+    <message>
+        <source>For paper (*.pdf)</source>
+        <translation>Für Papier (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print or export the quad map</source>
+        <translation>Den Quad-Plan drucken oder exportieren</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation>Zeichnung (*.svg)</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
+    </message>
 </context>
 <context>
     <name>Window::MapPane</name>
@@ -1012,6 +1078,10 @@ Im Katalog eine IP wählen und „Instanz anlegen“ drücken (Strg+I).</transla
     <message>
         <source>⚠ Conflicts: %1</source>
         <translation>⚠ Konflikte: %1</translation>
+    </message>
+    <message>
+        <source>%1: transceivers of %2</source>
+        <translation>%1: Transceiver von %2</translation>
     </message>
 </context>
 <context>
@@ -1262,6 +1332,10 @@ Konflikt: %1</translation>
         <source>There is no project in %1 any more</source>
         <translation>In %1 ist kein Projekt mehr</translation>
     </message>
+    <message>
+        <source>Take the project off this list; its files stay</source>
+        <translation>Das Projekt von dieser Liste nehmen; seine Dateien bleiben</translation>
+    </message>
 </context>
 <context>
     <name>Window::Workbench</name>
@@ -1272,14 +1346,6 @@ Konflikt: %1</translation>
     <message>
         <source>the IP threw an exception: %1</source>
         <translation>die IP warf eine Ausnahme: %1</translation>
-    </message>
-    <message>
-        <source>%1 (process %2)</source>
-        <translation>%1 (Prozess %2)</translation>
-    </message>
-    <message>
-        <source>another program</source>
-        <translation>einem anderen Programm</translation>
     </message>
     <message>
         <source>there is an instance of this name already</source>
@@ -1308,6 +1374,10 @@ Konflikt: %1</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>%1 writes to the same folder, &quot;%2&quot;; nothing was written. Give one of them another file name.</source>
+        <translation>%1 schreibt in denselben Ordner, „%2“; nichts wurde geschrieben. Bitte einer der beiden einen anderen Dateinamen geben.</translation>
     </message>
 </context>
 </TS>
