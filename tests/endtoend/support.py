@@ -18,9 +18,13 @@ RUN_TIMEOUT = 60  # s; a session never hangs
 _build = None
 
 
-def main():
+def use_build(folder):
     global _build
-    _build = os.path.abspath(sys.argv.pop(1))
+    _build = os.path.abspath(folder)
+
+
+def main():
+    use_build(sys.argv.pop(1))
     unittest.main(module="__main__", verbosity=2)
 
 

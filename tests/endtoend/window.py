@@ -21,10 +21,10 @@ PATIENCE = 30  # s; only a failure waits that long
 class Display:
     """An X server on a free number."""
 
-    def __init__(self):
+    def __init__(self, size="1600x1200"):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1600x1200x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as numbers:
@@ -41,7 +41,7 @@ class Display:
 class Gui:
     """One run of the window."""
 
-    def __init__(self, test, display, *arguments, path="/usr/bin:/bin"):
+    def __init__(self, test, display, *arguments, path="/usr/bin:/bin", more=None):
         self.display = display
         to_read, self.out = os.pipe()
         self.back, to_write = os.pipe()
@@ -49,7 +49,7 @@ class Gui:
             "PATH": path, "HOME": test.folder, "LC_ALL": "C.UTF-8", "DISPLAY": display.name,
             "QT_QPA_GENERIC_PLUGINS": "windowprobe",
             "QT_PLUGIN_PATH": os.path.join(support.build_folder(), "tests", "probe"),
-            "WINDOW_PROBE": "%d,%d" % (to_read, to_write)}
+            "WINDOW_PROBE": "%d,%d" % (to_read, to_write), **(more or {})}
         self.log = open(os.path.join(test.folder, "window.log"), "ab")
         self.process = subprocess.Popen(
             [os.path.join(support.build_folder(), "bin", "ipgen"), "gui", *arguments],

@@ -11,6 +11,8 @@
 #include <QClipboard>
 #include <QFile>
 #include <QGenericPlugin>
+#include <QHash>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -18,8 +20,10 @@
 #include <QPlainTextEdit>
 #include <QSocketNotifier>
 #include <QTabWidget>
+#include <QVector>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstddef>
 #include <unistd.h>
 
@@ -145,6 +149,49 @@ QJsonArray nameless() {
     return list;
 }
 
+/// The picture with the 256 colours that it has most of: few are lost in a window's picture, and
+/// the file is a fraction.
+QImage withPalette(const QImage& picture) {
+    constexpr int most = 256;
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ++counts[picture.pixel(x, y)];
+        }
+    }
+    QVector<QRgb> colors = counts.keys().toVector();
+    std::sort(colors.begin(), colors.end(), [&](QRgb a, QRgb b) {
+        return counts.value(a) != counts.value(b) ? counts.value(a) > counts.value(b) : a < b;
+    });
+    const QVector<QRgb> table = colors.mid(0, most);
+    QHash<QRgb, int> places;
+    for (const QRgb color : qAsConst(colors)) {
+        const auto away = [color](QRgb other) {
+            const int red = qRed(color) - qRed(other);
+            const int green = qGreen(color) - qGreen(other);
+            const int blue = qBlue(color) - qBlue(other);
+            return red * red + green * green + blue * blue;
+        };
+        const auto nearest = std::min_element(table.begin(), table.end(),
+                                              [&](QRgb a, QRgb b) { return away(a) < away(b); });
+        places.insert(color, int(nearest - table.begin()));
+    }
+    QImage result(picture.size(), QImage::Format_Indexed8);
+    result.setColorTable(table);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            result.setPixel(x, y, uint(places.value(picture.pixel(x, y))));
+        }
+    }
+    return result;
+}
+
+bool savePicture(QWidget* widget, const QString& path) {
+    const QImage picture = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    constexpr int smallest = 0; // as PNG counts quality: all the compression there is
+    return withPalette(picture).save(path, "PNG", smallest);
+}
+
 QJsonValue answer(const QJsonObject& request) {
     const QString what = request[QStringLiteral("what")].toString();
     const QString name = request[QStringLiteral("name")].toString();
@@ -169,6 +216,9 @@ QJsonValue answer(const QJsonObject& request) {
         return describe(found.first());
     }
     const QString item = request[QStringLiteral("item")].toString();
+    if (what == QLatin1String("picture")) { // into a file of this path
+        return savePicture(found.first(), item);
+    }
     if (what == QLatin1String("item")) { // of a view, by its text
         const auto* view = qobject_cast<const QAbstractItemView*>(found.first());
         const QModelIndex index =
