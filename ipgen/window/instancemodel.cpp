@@ -87,8 +87,9 @@ QVariant InstanceModel::data(const QModelIndex& index, int role) const {
     if (role == nameRole) {
         return row.name;
     }
-    if (role == Qt::ToolTipRole) {
-        return row.detail.isEmpty() ? row.name : row.detail;
+    if (role == Qt::ToolTipRole) { // a narrow column may cut its text off
+        const QString text = data(index, Qt::DisplayRole).toString();
+        return row.detail.isEmpty() ? text : QStringLiteral("%1\n%2").arg(text, row.detail);
     }
     if (role == Qt::AccessibleDescriptionRole && column == Status) {
         return row.detail;

@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -99,6 +100,8 @@ void MainWindow::makePages() {
     m_down->setChildrenCollapsible(false);
     m_down->setStretchFactor(0, 2);
     m_down->setStretchFactor(1, 3);
+    // A few rows; the rest is for the map. What the user makes of it comes from the settings.
+    m_down->setSizes({fontMetrics().height() * 12, fontMetrics().height() * 28});
     m_across = new QSplitter(Qt::Horizontal, this);
     m_across->addWidget(m_catalogue);
     m_across->addWidget(m_down);
@@ -223,7 +226,9 @@ void MainWindow::onProject() {
         setWindowTitle(tr("%1 — IP generator").arg(QFileInfo(folder).fileName()));
         m_projectLabel->setText(QFileInfo(folder).fileName());
         m_projectLabel->setToolTip(folder);
-        m_folderLabel->setText(folder);
+        const QString home = QDir::homePath() + QLatin1Char('/');
+        m_folderLabel->setText(
+            folder.startsWith(home) ? QStringLiteral("~/") + folder.mid(home.size()) : folder);
         m_folderLabel->setToolTip(folder);
         m_deviceLabel->setText(m_bench.device().id());
         m_deviceAbout->setText(deviceSummary(m_bench.device().id()));

@@ -227,7 +227,7 @@ void MapView::draw(QPainter& painter, const QPalette& palette) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(font());
     for (const auto& [frame, title] : m_frames) {
-        painter.setPen(QPen(palette.color(QPalette::Mid), 1));
+        painter.setPen(QPen(isDark(palette) ? faint(palette) : palette.color(QPalette::Mid), 1));
         painter.setBrush(palette.color(QPalette::AlternateBase));
         painter.drawRoundedRect(frame, 4, 4);
         painter.setPen(palette.color(QPalette::WindowText));

@@ -21,6 +21,9 @@ QColor symbolColor(Symbol symbol, QIcon::Mode mode) {
     if (mode == QIcon::Disabled) {
         return palette.color(QPalette::Disabled, QPalette::ButtonText);
     }
+    if (mode == QIcon::Selected) {
+        return palette.color(QPalette::HighlightedText);
+    }
     switch (symbol) {
     case Symbol::Good:
         return goodColor(palette);

@@ -5,9 +5,11 @@
 #include <QApplication>
 #include <QColor>
 #include <QIcon>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace Window {
 
@@ -62,6 +64,23 @@ public:
             return QProxyStyle::standardIcon(picture, option, widget);
         }
     }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        // On a dark ground the edges of what can be filled in would hardly be seen.
+        if ((element == PE_FrameLineEdit || element == PE_IndicatorCheckBox) &&
+            isDark(option->palette) && (option->state & State_HasFocus) == 0) {
+            painter->save();
+            painter->setPen(edgeColor());
+            painter->setBrush(Qt::NoBrush);
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            painter->restore();
+        }
+    }
+
+private:
+    static QColor edgeColor() { return {0x80, 0x84, 0x8a}; }
 };
 
 } // namespace

@@ -149,8 +149,7 @@ QJsonArray nameless() {
     return list;
 }
 
-/// The picture with the 256 colours that it has most of: few are lost in a window's picture, and
-/// the file is a fraction.
+/// The picture with 256 colours: little is lost in a window's picture, and the file is a fraction.
 QImage withPalette(const QImage& picture) {
     constexpr int most = 256;
     QHash<QRgb, int> counts;
@@ -163,18 +162,34 @@ QImage withPalette(const QImage& picture) {
     std::sort(colors.begin(), colors.end(), [&](QRgb a, QRgb b) {
         return counts.value(a) != counts.value(b) ? counts.value(a) > counts.value(b) : a < b;
     });
-    const QVector<QRgb> table = colors.mid(0, most);
+    const auto away = [](QRgb a, QRgb b) {
+        const int red = qRed(a) - qRed(b);
+        const int green = qGreen(a) - qGreen(b);
+        const int blue = qBlue(a) - qBlue(b);
+        return red * red + green * green + blue * blue;
+    };
+    // Half by frequency; then always the one that those chosen stand farthest from, so that a
+    // colour of few pixels is there too.
+    QVector<QRgb> table = colors.mid(0, most / 2);
+    const auto nearest = [&](QRgb color) {
+        return std::min_element(table.begin(), table.end(),
+                                [&](QRgb a, QRgb b) { return away(color, a) < away(color, b); });
+    };
+    QVector<int> distances;
+    for (const QRgb color : qAsConst(colors)) {
+        distances.append(away(color, *nearest(color)));
+    }
+    while (table.size() < std::min(most, colors.size())) {
+        const auto farthest = std::max_element(distances.begin(), distances.end());
+        const QRgb chosen = colors.at(int(farthest - distances.begin()));
+        table.append(chosen);
+        for (int i = 0; i < colors.size(); ++i) {
+            distances[i] = std::min(distances.at(i), away(colors.at(i), chosen));
+        }
+    }
     QHash<QRgb, int> places;
     for (const QRgb color : qAsConst(colors)) {
-        const auto away = [color](QRgb other) {
-            const int red = qRed(color) - qRed(other);
-            const int green = qGreen(color) - qGreen(other);
-            const int blue = qBlue(color) - qBlue(other);
-            return red * red + green * green + blue * blue;
-        };
-        const auto nearest = std::min_element(table.begin(), table.end(),
-                                              [&](QRgb a, QRgb b) { return away(a) < away(b); });
-        places.insert(color, int(nearest - table.begin()));
+        places.insert(color, int(nearest(color) - table.begin()));
     }
     QImage result(picture.size(), QImage::Format_Indexed8);
     result.setColorTable(table);
