@@ -65,6 +65,10 @@ public:
 
     int dpi() const { return m_view.logicalDpiX(); }
     qreal width() const { return m_view.sizeHint().width(); }
+    /// Of a picture: with a margin, which paper has of its own.
+    QRectF area() const {
+        return QRectF(0, 0, width(), height()).adjusted(-m_line, -m_line / 2, m_line, 0);
+    }
     qreal height() const {
         return mapBottom() + m_line * (m_legend.size() + m_conflicts.size() + 1);
     }
@@ -104,9 +108,11 @@ public:
         }
         for (const auto& [owner, held] : m_legend) {
             const QRectF row = next();
-            const qreal side = m_line * 0.85;
-            MapView::drawBadge(painter, palette, QRectF(row.topLeft(), QSizeF(side * 1.4, side)),
-                               m_sheet.marks.value(owner));
+            const qreal side = m_line * 0.9;
+            QRectF badge(0, 0, side * 1.4, side);
+            badge.moveCenter({row.left() + badge.width() / 2, row.center().y()});
+            painter.setFont(m_font);
+            MapView::drawBadge(painter, palette, badge, m_sheet.marks.value(owner));
             painter.setPen(palette.color(QPalette::Text));
             painter.drawText(
                 row.adjusted(side * 1.7, 0, 0, 0), Qt::AlignVCenter,
@@ -140,9 +146,10 @@ QByteArray asPdf(const MapSheet& sheet, const Layout& layout) {
     writer.setPageOrientation(QPageLayout::Landscape);
     writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
     QPainter painter(&writer);
-    // A map that is larger than the paper is made smaller; a small one keeps its size.
+    // As large as the paper lets it be, and no coarser than is good to read.
+    constexpr qreal largest = 1.3;
     const qreal scale =
-        std::min({1.0, writer.width() / layout.width(), writer.height() / layout.mapBottom()});
+        std::min({largest, writer.width() / layout.width(), writer.height() / layout.mapBottom()});
     painter.scale(scale, scale);
     layout.draw(painter, writer.height() / scale, [&] { writer.newPage(); });
     painter.end();
@@ -157,7 +164,7 @@ QByteArray asSvg(const MapSheet& sheet, const Layout& layout) {
     generator.setOutputDevice(&buffer);
     generator.setTitle(sheet.title);
     generator.setResolution(layout.dpi());
-    const QRectF area(0, 0, layout.width(), layout.height());
+    const QRectF area = layout.area();
     generator.setSize(area.size().toSize());
     generator.setViewBox(area);
     QPainter painter(&generator);
@@ -169,10 +176,12 @@ QByteArray asSvg(const MapSheet& sheet, const Layout& layout) {
 
 QByteArray asPng(const Layout& layout) {
     constexpr int scale = 2; // sharp on paper too
-    QImage image(int(layout.width()) * scale, int(layout.height()) * scale, QImage::Format_RGB32);
+    const QRectF area = layout.area();
+    QImage image(area.size().toSize() * scale, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(scale, scale);
+    painter.translate(-area.topLeft());
     layout.draw(painter, 0, {});
     painter.end();
     QByteArray bytes;
