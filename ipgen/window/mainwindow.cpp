@@ -25,6 +25,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -331,7 +332,8 @@ void MainWindow::onSelection() {
 void MainWindow::showPage(int number) {
     m_views->setCurrentIndex(number);
     if (QWidget* page = m_views->currentWidget()) {
-        QWidget* target = page->focusPolicy() == Qt::NoFocus ? page->nextInFocusChain() : page;
+        // The map is to be looked at; every other page says what in it has the keyboard.
+        QWidget* target = page->focusProxy() != nullptr ? page : m_views->tabBar();
         target->setFocus(Qt::ShortcutFocusReason);
     }
 }

@@ -154,6 +154,18 @@ class Gui:
         self.key(*keys)
         self.window(self.until("a dialog", self.dialogs)[0]["title"])
 
+    def tab_to(self, name):
+        """Tab until the widget has the keyboard; the accessible names on the way."""
+        seen = []
+        for _ in range(200):
+            focus = self.until("the keyboard somewhere", lambda: self.ask("focus"))
+            seen.append(focus["accessible"])
+            if focus["name"] == name:
+                return seen
+            self.key("Tab")
+            self.until("the keyboard beyond %s" % seen, lambda f=focus: self.ask("focus") != f)
+        raise AssertionError("Tab does not lead to %s, but to %s" % (name, seen))
+
     def accept_dialog(self, done):
         """OK, and Yes or OK to what is asked then, until done() holds and no dialog is left."""
         self.key("Return")

@@ -2,7 +2,7 @@
 
 import os
 
-from support import main
+from support import lanes, main
 from window import WindowTest
 
 
@@ -88,6 +88,80 @@ class MainPath(WindowTest):
         # And out, by keys.
         gui.key("ctrl+q")
         self.assertEqual(gui.process.wait(30), 0)
+
+    def test_by_keys_alone(self):
+        gui = self.gui()
+        gui.window("IP generator")
+        gui.key("ctrl+n")
+        gui.window("New project")
+        gui.key("ctrl+a")
+        gui.type(self.path("board"))
+        gui.key("Return")
+        gui.window("board — ")
+        self.project = self.path("board")
+        for name, lane in (("link0", "q0_l0"), ("link1", "q0_l1")):
+            gui.window("board — ")
+            gui.key("ctrl+f")
+            gui.type("cust")
+            gui.until("the IP", lambda: (gui.shown("catalogueCreate") or {}).get("enabled"))
+            gui.key("Return")
+            gui.window("New instance")
+            gui.key("ctrl+a")
+            gui.type(name)
+            gui.key("Return")
+            gui.find(lane)
+            gui.window(gui.dialogs()[0]["title"])
+            seen = gui.tab_to(lane)
+            self.assertNotIn("", seen)  # a screen reader names each on the way
+            gui.key("space")
+            gui.until(lane + " checked", lambda n=lane: gui.shown(n)["checked"])
+            gui.accept_dialog(lambda n=name: any(
+                row[0] == n for row in gui.rows("instanceTable")))
+        # The map as a table: Return on a resource opens its owner.
+        gui.window("board — ")
+        gui.key("ctrl+2")
+        rows = gui.until("the resources", lambda: gui.rows("resourceTable"))
+        at = [row[0] for row in rows].index("Q0_LANE1")
+        gui.until("the keyboard there", lambda: gui.ask("focus")["name"] == "resourceTable")
+        gui.key("Home", *["Down"] * at)
+        gui.open_dialog("Return")
+        self.assertTrue(gui.find("q0_l1")["checked"])
+        gui.key("Escape")
+        gui.until("its end", lambda: not gui.dialogs())
+        # Generate, the files, the command line.
+        gui.window("board — ")
+        gui.key("ctrl+0")
+        gui.until("the keyboard there", lambda: gui.ask("focus")["name"] == "instanceTable")
+        gui.key("ctrl+a", "F8")
+        gui.until_text("noticeText", "Generated: link0, link1")
+        gui.key("ctrl+3")
+        gui.until("the keyboard there", lambda: gui.ask("focus")["name"] == "fileList")
+        gui.key("End")
+        gui.until_text("fileText", "parameter")
+        gui.key("ctrl+shift+c")
+        gui.until("the copied line", lambda: gui.ask("clipboard") ==
+                  "ipgen generate %s link0 link1" % self.project)
+
+    def test_everything_in_every_dialog_has_a_name(self):
+        self.new_project("60k")
+        self.create("link0", lanes("q0_l0"))
+        gui = self.gui(self.project)
+        gui.window("project — ")
+        gui.until("link0", lambda: gui.rows("instanceTable"))
+        gui.click_item("instanceTable", "link0")
+        for keys, title in (("ctrl+n", "New project"), ("ctrl+o", "Open a project folder"),
+                            ("ctrl+i", "New instance"), ("ctrl+d", "Duplicate"), ("F2", "Rename"),
+                            ("ctrl+e", "Customized PHY"), ("ctrl+p", "Print or export"),
+                            ("F1", "Keys"), ("ctrl+F1", "About")):
+            with self.subTest(dialog=title):
+                gui.window("project — ")
+                gui.key(keys)
+                gui.window(title)
+                self.assert_all_named(gui)
+                self.assertNotEqual(gui.until("the keyboard in it", lambda: gui.ask("focus"))
+                                    ["accessible"], "")
+                gui.key("Escape")
+                gui.until("its end", lambda: not gui.dialogs())
 
 
 if __name__ == "__main__":

@@ -107,6 +107,9 @@ QTabBar* pages(DialogFrame& frame) {
     frame.tabs = named(new QTabWidget, "tabs", protocolGenDlg::tr("Options"));
     frame.tabs->setDocumentMode(true);
     frame.tabs->tabBar()->hide();
+    // Given the keyboard, it would hand it to the hidden bar, and Tab would lead no further.
+    frame.tabs->setFocusProxy(nullptr);
+    frame.tabs->setFocusPolicy(Qt::NoFocus);
     frame.tabBar = named(new QTabBar, "tabBar", protocolGenDlg::tr("Pages"));
     frame.tabBar->setExpanding(false);
     QObject::connect(frame.tabBar, &QTabBar::currentChanged, frame.tabs,
@@ -183,6 +186,21 @@ void giveSize(QDialog& dialog) {
 
 } // namespace
 
+void DialogFrame::orderFields() const {
+    QList<QWidget*> fields;
+    for (QWidget* at = tabBar->nextInFocusChain(); at != tabBar; at = at->nextInFocusChain()) {
+        if (at != tabs && tabs->isAncestorOf(at) && at->focusPolicy() != Qt::NoFocus &&
+            at->focusProxy() == nullptr) {
+            fields.append(at);
+        }
+    }
+    QWidget* last = tabBar;
+    for (QWidget* field : qAsConst(fields)) {
+        QWidget::setTabOrder(last, field);
+        last = field;
+    }
+}
+
 void DialogFrame::build(QDialog& dialog) {
     auto* column = new QVBoxLayout(&dialog);
     column->addLayout(header(*this, dialog));
@@ -208,9 +226,10 @@ void DialogFrame::build(QDialog& dialog) {
                                    QDialogButtonBox::Help);
     buttons->setObjectName(QStringLiteral("buttons"));
     help = buttons->button(QDialogButtonBox::Help);
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     last->addWidget(buttons);
     column->addLayout(last);
+    // Of the dialog, which has it from here on: else a button of a page would be.
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     giveSize(dialog);
 }
 

@@ -40,6 +40,9 @@ struct DialogFrame {
 
     /// Builds and lays out the frame in the dialog.
     void build(QDialog& dialog);
+    /// Lets Tab lead from the bar through the pages, as one reads, and then to figure and buttons:
+    /// the pages' fields are made after the frame.
+    void orderFields() const;
 };
 
 } // namespace IPSERDESIP

@@ -286,6 +286,7 @@ bool protocolGenDlg::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::Show:
         d->frame.help->setEnabled(!helpPath(metaObject(), m_helpDocument).isEmpty());
+        d->frame.orderFields();
         break;
     case QEvent::WindowBlocked:
         d->lastMessage = messageOf(QApplication::activeModalWidget());

@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -597,6 +598,21 @@ void ProtocolGenDlgTest::accessibleAndInReach() {
         }
     }
     QCOMPARE(order, wanted);
+    // Tab goes the whole round and is caught nowhere.
+    QApplication::setActiveWindow(&dialog);
+    auto* first = dialog.field<QWidget>("fileName");
+    first->setFocus();
+    constexpr int most = 100;
+    QSet<QWidget*> reached;
+    int presses = 0;
+    do {
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != first && ++presses < most);
+    QVERIFY(presses < most);
+    QVERIFY(reached.contains(dialog.field<QWidget>("figure")));
+    QVERIFY(reached.contains(
+        dialog.field<QDialogButtonBox>("buttons")->button(QDialogButtonBox::Cancel)));
     for (const char* name : {"fileName", "moduleName", "synthesisTool", "language", "createIn"}) {
         const QList<QLabel*> labels = dialog.findChildren<QLabel*>();
         QVERIFY2(std::any_of(labels.begin(), labels.end(),

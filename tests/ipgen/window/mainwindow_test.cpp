@@ -34,6 +34,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 using namespace Window;
 
@@ -282,7 +283,15 @@ void MainWindowTest::mainPathByKeyboard() {
     QVERIFY2(m_window->workbench()->rows().size() == 1, qPrintable(noticeText()));
     QApplication::setActiveWindow(window); // as a window manager does after a dialog
     // The resources, then the files.
-    QTest::keyClick(window, Qt::Key_2, Qt::ControlModifier);
+    const std::pair<Qt::Key, const char*> pages[] = {{Qt::Key_3, "fileList"},
+                                                     {Qt::Key_4, "summaryText"},
+                                                     {Qt::Key_5, "log"},
+                                                     {Qt::Key_1, "qt_tabwidget_tabbar"},
+                                                     {Qt::Key_2, "resourceTable"}};
+    for (const auto& [key, name] : pages) {
+        QTest::keyClick(window, key, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(name));
+    }
     QCOMPARE(m_window->findChild<QTabWidget*>(QStringLiteral("views"))->currentIndex(), 1);
     QTest::keyClick(window, Qt::Key_F8, Qt::ShiftModifier);
     const QString name = m_window->workbench()->rows().first().name;
