@@ -1,6 +1,7 @@
 """The window's work in other processes: the netlist generation, and a second program on the project."""
 
 import os
+import time
 
 from support import lanes, main
 from window import WindowTest
@@ -118,9 +119,10 @@ class TwoPrograms(WindowTest):
         gui = self.opened()
         gui.open_dialog("ctrl+e")
         gui.click_on("q0_l1")
-        # Another program changes it while the dialog is open, and longer than the window waits
-        # after a change of the file.
+        # Another program changes it while the dialog is open; the window waits a moment (150 ms)
+        # after a change of the file, and shall have had the time to take it over by mistake.
         self.ipgen("open", self.project, "link0", "--set", "tab1/q0_l3=true")
+        time.sleep(0.6)
         theirs = self.project_bytes()
         gui.until("the checked lane", lambda: gui.shown("q0_l1")["checked"])
         gui.accept_dialog(lambda: gui.shown("noticeText"))
