@@ -74,8 +74,9 @@ OpenMark::OpenMark(const QString& project)
     }
     const QByteArray who = QByteArray::number(QCoreApplication::applicationPid()) + '\n' +
                            QCoreApplication::applicationName().toUtf8() + '\n';
-    if (m_fd >= 0 && (::ftruncate(m_fd, 0) != 0 ||
-                      ::write(m_fd, who.constData(), std::size_t(who.size())) < 0)) {
+    // Written over and then cut: a file system may sync what is emptied first.
+    if (m_fd >= 0 && (::write(m_fd, who.constData(), std::size_t(who.size())) != who.size() ||
+                      ::ftruncate(m_fd, who.size()) != 0)) {
         return; // the lock is what counts; its text is for people
     }
 }

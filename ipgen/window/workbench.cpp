@@ -64,9 +64,6 @@ Workbench::Workbench(QObject* parent)
     m_settle.setInterval(settleTime);
     connect(&m_looker, &QTimer::timeout, this, &Workbench::lookAtSome);
     connect(&m_settle, &QTimer::timeout, this, &Workbench::onFileChanged);
-    const auto settle = [this] { m_settle.start(); };
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, settle);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, settle);
 }
 
 Workbench::~Workbench() = default;
@@ -106,8 +103,7 @@ Status Workbench::adopt(Ipgen::Project project) {
     m_project = std::move(project);
     m_device = device;
     m_mark = std::make_unique<OpenMark>(m_project->folder());
-    m_watcher.addPath(m_project->file());
-    m_watcher.addPath(m_project->folder());
+    watch();
     Status entered = enterModel();
     rebuildRows();
     Q_EMIT projectChanged();
@@ -119,10 +115,7 @@ void Workbench::closeProject() {
         return;
     }
     m_looker.stop();
-    const QStringList watched = m_watcher.files() + m_watcher.directories();
-    if (!watched.isEmpty()) {
-        m_watcher.removePaths(watched);
-    }
+    m_watcher.reset();
     m_undo.clear();
     m_rows.clear();
     m_project.reset();
@@ -154,12 +147,12 @@ Status Workbench::reload() {
 }
 
 void Workbench::onFileChanged() {
-    if (!m_project) {
+    if (!m_project || !m_watcher) {
         return;
     }
     // A replaced file is another file to the watcher.
-    if (!m_watcher.files().contains(m_project->file()) && QFileInfo::exists(m_project->file())) {
-        m_watcher.addPath(m_project->file());
+    if (!m_watcher->files().contains(m_project->file()) && QFileInfo::exists(m_project->file())) {
+        m_watcher->addPath(m_project->file());
     }
     if (m_inDialog) {
         return; // its end comes back to this
@@ -232,8 +225,22 @@ QString Workbench::freeName(const QString& stem) const {
     }
 }
 
+void Workbench::watch() {
+    if (!m_looking || !m_project) {
+        return;
+    }
+    m_watcher = std::make_unique<QFileSystemWatcher>();
+    const auto settle = [this] { m_settle.start(); };
+    connect(m_watcher.get(), &QFileSystemWatcher::fileChanged, this, settle);
+    connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, this, settle);
+    m_watcher->addPath(m_project->file());
+    m_watcher->addPath(m_project->folder());
+    m_settle.start(); // it may have changed since it was read
+}
+
 void Workbench::beginLooking() {
     m_looking = true;
+    watch();
     look();
 }
 

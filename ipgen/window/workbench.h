@@ -70,7 +70,8 @@ public:
     void setChecked(const QString& name, const Ipgen::Status& verdict);
     /// Looks at the files again; the states come with stateChanged().
     void refreshStates();
-    /// Until this is called, states stay Unknown: the window shows itself first.
+    /// Until this is called, states stay Unknown and other programs' changes unseen: the window
+    /// shows itself first.
     void beginLooking();
 
     QUndoStack* undoStack() { return &m_undo; }
@@ -108,6 +109,7 @@ private:
     void rebuildRows();
     void lookAtSome();
     void look();
+    void watch();
     void onFileChanged();
 
     bool m_hostLoaded = false;
@@ -120,7 +122,7 @@ private:
     bool m_looking = false;
     bool m_inDialog = false; ///< an IP's dialog is open: what it works on stays as it is
     QTimer m_settle;         ///< another program may write in several steps
-    QFileSystemWatcher m_watcher;
+    std::unique_ptr<QFileSystemWatcher> m_watcher; ///< null until beginLooking()
     std::unique_ptr<OpenMark> m_mark;
 };
 
