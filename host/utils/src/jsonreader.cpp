@@ -84,7 +84,7 @@ public:
         : m_text(text)
         , m_offset(offset) {}
 
-    /// Ends the reading at this key, with the reason as its error.
+    /// Ends the reading at this part, with the reason as its error.
     void stopAt(const QStringList& wanted, const QString& reason) {
         m_wanted = wanted;
         m_wantedReason = reason;
@@ -93,19 +93,19 @@ public:
     const QVariant& value() const { return m_value; }
     const JsonError& error() const { return m_error; }
 
-    bool null() override { return add(QVariant()); }
-    bool boolean(bool value) override { return add(value); }
+    bool null() override { return addWord(QVariant()); }
+    bool boolean(bool value) override { return addWord(value); }
     bool number_integer(std::int64_t value) override {
         if (value >= std::numeric_limits<int>::min() && value <= std::numeric_limits<int>::max()) {
-            return add(static_cast<int>(value));
+            return addWord(static_cast<int>(value));
         }
-        return add(static_cast<qlonglong>(value));
+        return addWord(static_cast<qlonglong>(value));
     }
     bool number_unsigned(std::uint64_t value) override {
         if (value <= static_cast<std::uint64_t>(std::numeric_limits<qlonglong>::max())) {
             return number_integer(static_cast<std::int64_t>(value));
         }
-        return add(static_cast<qulonglong>(value));
+        return addWord(static_cast<qulonglong>(value));
     }
     bool number_float(double value, const std::string& digits) override {
         // The decimal point in here is the locale's.
@@ -115,9 +115,11 @@ public:
             return fail(*m_offset - (ahead ? 1 : 0) - static_cast<int>(digits.size()),
                         QStringLiteral("an integer wider than 64 bits"));
         }
-        return add(value);
+        return addWord(value);
     }
-    bool string(std::string& value) override { return add(fromUtf8(value)); }
+    bool string(std::string& value) override {
+        return (!isWantedEntry() || fail(startOfText(), m_wantedReason)) && add(fromUtf8(value));
+    }
     bool binary(nlohmann::json::binary_t& /*value*/) override { return false; }
 
     bool start_object(std::size_t /*size*/) override { return push(true); }
@@ -151,10 +153,10 @@ public:
         // The program's own files have their keys in order.
         const bool inOrder = frame.map.isEmpty() || frame.map.lastKey() < frame.key;
         if (!inOrder && frame.map.contains(frame.key)) {
-            return fail(startOfKey(),
+            return fail(startOfText(),
                         QStringLiteral("the key \"%1\" is given twice").arg(frame.key));
         }
-        return m_wanted.isEmpty() || path() != m_wanted || fail(startOfKey(), m_wantedReason);
+        return m_wanted.isEmpty() || path() != m_wanted || fail(startOfText(), m_wantedReason);
     }
     bool parse_error(std::size_t position, const std::string& /*token*/,
                      const nlohmann::json::exception& what) override {
@@ -175,16 +177,29 @@ private:
         return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
     }
 
-    /// The keys from the outermost object to the one being read; a list has an empty one.
+    /// The keys and entries' numbers from the outermost object or list to the part being read.
     QStringList path() const {
-        QStringList keys;
+        QStringList parts;
         for (const Frame& frame : m_frames) {
-            keys.append(frame.key);
+            parts.append(frame.isObject ? frame.key : QString::number(frame.list.size()));
         }
-        return keys;
+        return parts;
+    }
+    /// An object's part counts at its key.
+    bool isWantedEntry() const {
+        return !m_wanted.isEmpty() && !m_frames.empty() && !m_frames.back().isObject &&
+               path() == m_wanted;
+    }
+
+    /// Adds a number or another word.
+    bool addWord(const QVariant& value) {
+        return (!isWantedEntry() || fail(startOfWord(), m_wantedReason)) && add(value);
     }
 
     bool push(bool isObject) {
+        if (isWantedEntry()) {
+            return fail(*m_offset - 1, m_wantedReason);
+        }
         if (m_frames.size() >= static_cast<std::size_t>(jsonDepthLimit)) {
             return fail(
                 *m_offset - 1,
@@ -210,9 +225,24 @@ private:
         return true;
     }
 
-    /// The key that was just read ends with the quote before the offset. Going back, the first
+    /// A number or word that was just read; the parser may have read a character more.
+    int startOfWord() const {
+        const auto inWord = [this](int at) {
+            const char c = m_text[at];
+            return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == 'E' || c == '+' ||
+                   c == '-' || c == '.';
+        };
+        int at = *m_offset - 1;
+        at -= inWord(at) ? 0 : 1;
+        while (at > 0 && inWord(at - 1)) {
+            --at;
+        }
+        return at;
+    }
+
+    /// The text that was just read ends with the quote before the offset. Going back, the first
     /// quote that no odd run of backslashes escapes is the one that opens it.
-    int startOfKey() const {
+    int startOfText() const {
         int at = *m_offset - 2;
         for (; at > 0; --at) {
             if (m_text[at] != '"') {

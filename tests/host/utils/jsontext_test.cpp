@@ -204,6 +204,34 @@ private Q_SLOTS:
         QCOMPARE(written, QByteArray("[2.5]"));
     }
 
+    void places_data() {
+        QTest::addColumn<QStringList>("part");
+        QTest::addColumn<QString>("place");
+        const auto row = [](const QStringList& part, const char* place) {
+            QTest::newRow(qPrintable(part.join(QLatin1Char('>')))) << part << QString(place);
+        };
+        row({"a"}, "line 2, column 3: x");
+        row({"list"}, "line 3, column 4: x");
+        row({"list", "0"}, "line 3, column 13: x");
+        row({"list", "1"}, "line 3, column 18: x");
+        row({"list", "2"}, "line 4, column 5: x");
+        row({"list", "3"}, "line 5, column 5: x");
+        row({"list", "3", QString::fromUtf8("k\xc3\xb6/ln")}, "line 5, column 7: x");
+        row({"list", "4"}, "line 6, column 5: x");
+        row({"list", "4", "0"}, "line 6, column 6: x");
+        row({"list", "9"}, "");
+        row({"nothing", "here"}, "");
+        row({}, "");
+    }
+    void places() {
+        QFETCH(QStringList, part);
+        QFETCH(QString, place);
+        const QByteArray text = "{\n  \"a\": 1,\n   \"list\": [\"b\", -12.5e3,\n"
+                                "    null ,\n    { \"k\xc3\xb6/ln\": true},\n"
+                                "    [[]]\n]}";
+        QCOMPARE(Utils::errorAtKey(text, part, QStringLiteral("x")).text(), place);
+    }
+
     void roundTrip_data() { readsKinds_data(); }
     void roundTrip() {
         QFETCH(QVariant, expected);
