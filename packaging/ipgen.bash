@@ -29,6 +29,12 @@ _ipgen()
             mapfile -t COMPREPLY < <(compgen -W "$(ipgen catalog 2>/dev/null | grep '^[^ ]')" -- "$cur")
             return
             ;;
+        --preset)
+            local IFS=$'\n'
+            mapfile -t COMPREPLY < <(compgen -W "$(ipgen presets --json 2>/dev/null | sed -n 's/^ *"name": "\(.*\)",$/\1/p')" -- "$cur")
+            COMPREPLY=("${COMPREPLY[@]// /\\ }")
+            return
+            ;;
         --set | --jobs)
             return
             ;;
@@ -38,10 +44,11 @@ _ipgen()
         "") options="--help --version --plugin-dir" ;;
         catalog) options="--help --plugin-dir --json" ;;
         devices) options="--help --plugin-dir --json" ;;
+        presets) options="--help --plugin-dir --ip --device --json" ;;
         new) options="--help --plugin-dir --device" ;;
         list) options="--help --plugin-dir --json" ;;
-        create) options="--help --plugin-dir --ip --set --script --report --show --record" ;;
-        open) options="--help --plugin-dir --set --script --report --show --record" ;;
+        create) options="--help --plugin-dir --ip --preset --set --script --report --show --record" ;;
+        open) options="--help --plugin-dir --preset --set --script --report --show --record" ;;
         check) options="--help --plugin-dir --json" ;;
         generate) options="--help --plugin-dir --netlist --quiet --json" ;;
         example) options="--help --plugin-dir --out --json" ;;
@@ -60,10 +67,10 @@ _ipgen()
     fi
     case $command in
         "")
-            mapfile -t COMPREPLY < <(compgen -W "catalog devices new list create open check generate example resources figure remove emit gui diff summary" -- "$cur")
+            mapfile -t COMPREPLY < <(compgen -W "catalog devices presets new list create open check generate example resources figure remove emit gui diff summary" -- "$cur")
             return
             ;;
-        catalog | devices | emit)
+        catalog | devices | presets | emit)
             return
             ;;
         diff)

@@ -7,6 +7,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     for (const auto make : {
              makeCatalogCommand,
              makeDevicesCommand,
+             makePresetsCommand,
              makeNewCommand,
              makeListCommand,
              makeCreateCommand,

@@ -13,6 +13,7 @@ std::vector<std::unique_ptr<Command>> makeCommands();
 // One a file. A new command: its file, its maker here, its row in commands.cpp.
 std::unique_ptr<Command> makeCatalogCommand();
 std::unique_ptr<Command> makeDevicesCommand();
+std::unique_ptr<Command> makePresetsCommand();
 std::unique_ptr<Command> makeNewCommand();
 std::unique_ptr<Command> makeListCommand();
 std::unique_ptr<Command> makeGenerateCommand();

@@ -29,7 +29,7 @@ public:
 
     Screen screen() const override { return m_options.screen(); }
     const char* withoutDisplay() const override {
-        return "; use --script FILE or --set OBJECT=VALUE to work without one";
+        return "; use --script FILE, --set OBJECT=VALUE or --preset NAME to work without one";
     }
 
     Exit run(Context& context) override {
@@ -47,8 +47,13 @@ public:
         if (!status.ok()) {
             return context.tell(status);
         }
+        status = m_options.takePreset(*entry, IPSERDESIP::serdes::instance()->device());
+        if (!status.ok()) {
+            return context.tell(status);
+        }
         Session::Report report;
-        const Status recorded = m_options.run(action(project, *entry), &report);
+        Session::FrameLoan frame(*entry, project, name());
+        const Status recorded = m_options.run(action(project, *entry), frame, &report);
         Exit exit = finish(context, project, *entry, report);
         for (const Status& written : {recorded, m_options.writeReport(context, report)}) {
             if (!written.ok()) {

@@ -2,6 +2,7 @@
 
 #include "ipgen/cli/arguments.h"
 #include "ipgen/cli/context.h"
+#include "ipgen/core/presets.h"
 #include "ipgen/core/translation.h"
 #include "ipgen/session/recorder.h"
 
@@ -27,6 +28,10 @@ Status writeFile(const std::string& path, const QByteArray& bytes) {
 } // namespace
 
 void SessionOptions::declare(CLI::App& app) {
+    app.add_option("--preset", m_preset,
+                   "apply a preset, by its name or its file, in front of --set and --script; "
+                   "headless")
+        ->type_name("NAME_OR_FILE");
     CLI::Option* set =
         app.add_option("--set", m_settings,
                        "give a field a value, such as tab1/Rate=2.5, then accept; headless; may be "
@@ -51,13 +56,13 @@ Command::Screen SessionOptions::screen() const {
 Status SessionOptions::prepare() {
     if (!isScripted() && (m_show || !m_report.empty())) {
         return {Exit::Usage, m_show ? QStringLiteral("--show") : QStringLiteral("--report"),
-                QStringLiteral("needs --script or --set")};
+                QStringLiteral("needs --script, --set or --preset")};
     }
     return isScripted() ? readScript() : Status();
 }
 
 Status SessionOptions::readScript() {
-    if (!m_settings.empty()) {
+    if (m_scriptFile.empty()) {
         const QString error = Session::scriptOfSettings(fromArguments(m_settings), &m_script);
         return error.isEmpty() ? Status() : Status(Exit::Usage, QStringLiteral("--set"), error);
     }
@@ -80,14 +85,28 @@ Status SessionOptions::readScript() {
     return error.isEmpty() ? Status() : Status(Exit::BadInput, name, error);
 }
 
-Status SessionOptions::run(const Session::Player::Action& action, Session::Report* report) const {
+Status SessionOptions::takePreset(const CatalogueEntry& entry, const DEV::DeviceArg& device) {
+    if (m_preset.empty()) {
+        return {};
+    }
+    IPSERDESIP::Preset preset;
+    const Status found = findPreset(entry, device, fromArgument(m_preset), &preset);
+    if (found.ok()) {
+        m_script.prepend(
+            {Session::Step::Kind::Preset, preset.name, QVariant::fromValue(preset), false});
+    }
+    return found;
+}
+
+Status SessionOptions::run(const Session::Player::Action& action, Session::FrameLoan& frame,
+                           Session::Report* report) const {
     // A script names buttons and items by their texts, so it is played and recorded in one
     // language.
     std::optional<Translation> translation;
     if (!isScripted() && m_record.empty()) {
         translation.emplace();
     }
-    Session::Recorder recorder;
+    Session::Recorder& recorder = frame.recorder();
     if (isScripted()) {
         Session::Options options;
         options.pause = m_show ? showPause : 0;

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "ipgen/cli/command.h"
+#include "ipgen/core/catalogue.h"
 #include "ipgen/core/status.h"
+#include "ipgen/session/frameloan.h"
 #include "ipgen/session/player.h"
 
 #include <CLI/CLI.hpp>
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,18 +24,24 @@ public:
 
     /// Reads the script, and refuses what the options cannot be used for together.
     Status prepare();
+    /// Finds the preset among those of the IP, and puts it in front of the script.
+    Status takePreset(const CatalogueEntry& entry, const DEV::DeviceArg& device);
     /// Runs the action, which opens the dialog: by the script, or by the user. Writes the
     /// recording.
-    Status run(const Session::Player::Action& action, Session::Report* report) const;
+    Status run(const Session::Player::Action& action, Session::FrameLoan& frame,
+               Session::Report* report) const;
     /// Writes the report where it is asked for.
     Status writeReport(Context& context, const Session::Report& report) const;
     /// Whether standard output is the report's.
     bool reportsToOutput() const { return m_report == "-"; }
 
 private:
-    bool isScripted() const { return !m_settings.empty() || !m_scriptFile.empty(); }
+    bool isScripted() const {
+        return !m_settings.empty() || !m_scriptFile.empty() || !m_preset.empty();
+    }
     Status readScript();
 
+    std::string m_preset;
     std::vector<std::string> m_settings;
     std::string m_scriptFile;
     std::string m_report;

@@ -1,6 +1,6 @@
 #include "ipgen/session/boxkeeper.h"
 
-#include "ipgen/session/hands.h"
+#include <serdesip/hands.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,6 +16,8 @@
 namespace Ipgen::Session {
 
 namespace {
+
+using IPSERDESIP::Hands::click;
 
 /// How often a look is taken at what has not closed yet, in ms.
 constexpr int sweepInterval = 100;

@@ -1,20 +1,21 @@
 #include "ipgen/session/player.h"
 
-#include "ipgen/session/fields.h"
-#include "ipgen/session/hands.h"
+#include "ipgen/session/snapshot.h"
 
+#include <serdesip/hands.h>
+#include <serdesip/presetplay.h>
 #include <serdesip/protocolgendlg.h>
 #include <serdesip/serdes.h>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
-#include <QTabBar>
-#include <QTabWidget>
 
 namespace Ipgen::Session {
 
 namespace {
+
+using IPSERDESIP::Hands::click;
 
 /// ms until the next look when something stands in the dialog's way, and between looks at the time.
 constexpr int busyInterval = 5;
@@ -69,7 +70,7 @@ bool Player::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Show && !m_shown) {
         if (auto* dialog = qobject_cast<IPSERDESIP::protocolGenDlg*>(object)) {
             m_shown = true;
-            m_view = DialogView(dialog);
+            m_view = IPSERDESIP::DialogView(dialog);
             m_keeper.setDialog(dialog);
             connect(dialog, &QDialog::finished, this,
                     [this](int code) { m_dialogAccepted = code == QDialog::Accepted; });
@@ -104,7 +105,10 @@ void Player::perform(const Step& step) {
     QString why;
     switch (step.kind) {
     case Step::Kind::Set:
-        why = set(step);
+        why = m_view.setField(step.target, step.to);
+        break;
+    case Step::Kind::Preset:
+        why = applyPreset(step);
         break;
     case Step::Kind::Press:
         why = press(step);
@@ -113,8 +117,8 @@ void Player::perform(const Step& step) {
         m_keeper.expectAnswer(step.target, m_current, step.tries);
         break;
     case Step::Kind::State:
-        m_report.states.insert(step.target, m_view.state());
-        m_report.figures.insert(step.target, m_view.figure());
+        m_report.states.insert(step.target, snapshotOf(m_view));
+        m_report.figures.insert(step.target, figureOf(*m_view.dialog()));
         m_report.pins.insert(step.target, m_view.dialog()->figurePins());
         m_report.module = m_view.dialog()->moduleName();
         break;
@@ -139,22 +143,18 @@ void Player::perform(const Step& step) {
     }
 }
 
-QString Player::set(const Step& step) {
-    const DialogView::Place place = m_view.find(step.target);
-    if (place.widget == nullptr) {
-        return place.why;
+/// All that the preset could not do, in one line.
+QString Player::applyPreset(const Step& step) {
+    QStringList reasons;
+    const auto refused = IPSERDESIP::playPreset(m_view, step.to.value<IPSERDESIP::Preset>().steps);
+    for (const IPSERDESIP::PresetRefusal& one : refused) {
+        reasons.append(one.object + QLatin1String(": ") + one.why);
     }
-    const QString why = m_view.whyOutOfReach(place);
-    if (!why.isEmpty()) {
-        return why;
-    }
-    m_view.bringIntoSight(place);
-    QTabWidget* tabs = m_view.tabs();
-    return setField(place.widget, step.to, tabs == nullptr ? nullptr : tabs->tabBar());
+    return reasons.join(QLatin1String("; "));
 }
 
 QString Player::press(const Step& step) {
-    const DialogView::Place place = m_view.find(step.target);
+    const IPSERDESIP::DialogView::Place place = m_view.find(step.target);
     if (place.widget == nullptr) {
         return place.why;
     }

@@ -2,11 +2,11 @@
 
 #include "ipgen/core/errorcollector.h"
 #include "ipgen/session/boxkeeper.h"
-#include "ipgen/session/dialogview.h"
 #include "ipgen/session/report.h"
 #include "ipgen/session/script.h"
 #include "ipgen/session/watchdog.h"
 
+#include <serdesip/dialogview.h>
 #include <serdesip/types.h>
 
 #include <QElapsedTimer>
@@ -42,7 +42,7 @@ public:
 private:
     void tick();
     void perform(const Step& step);
-    QString set(const Step& step);
+    QString applyPreset(const Step& step);
     QString press(const Step& step);
     QString pressStandard(QAbstractButton* button, const char* name);
     void refuse(int step, bool tries, const QString& why);
@@ -58,7 +58,7 @@ private:
     Options m_options;
     Report m_report;
     BoxKeeper m_keeper;
-    DialogView m_view;
+    IPSERDESIP::DialogView m_view;
     bool m_shown = false;
     bool m_dialogAccepted = false;
     bool m_gaveUp = false;

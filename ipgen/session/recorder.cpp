@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,6 +16,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSpinBox>
+#include <QToolButton>
+
+#include <algorithm>
 
 namespace Ipgen::Session {
 
@@ -30,6 +34,12 @@ QVariant valueOf(const QWidget* field) {
     if (const auto* spin = qobject_cast<const QDoubleSpinBox*>(field)) {
         return spin->value();
     }
+    if (const auto* combo = qobject_cast<const QComboBox*>(field)) {
+        return combo->currentText();
+    }
+    if (const auto* check = qobject_cast<const QCheckBox*>(field)) {
+        return check->isChecked();
+    }
     return {};
 }
 
@@ -38,6 +48,34 @@ QAbstractSpinBox* spinOf(QObject* object) {
     auto* spin = qobject_cast<QAbstractSpinBox*>(object);
     return spin != nullptr || object == nullptr ? spin
                                                 : qobject_cast<QAbstractSpinBox*>(object->parent());
+}
+
+/// The button's text as a session without a language shows it: scripts name buttons by it.
+QString plainText(const QMessageBox* box, QAbstractButton* button) {
+    switch (box->standardButton(button)) {
+    case QMessageBox::Ok:
+        return QStringLiteral("OK");
+    case QMessageBox::Yes:
+        return QStringLiteral("Yes");
+    case QMessageBox::No:
+        return QStringLiteral("No");
+    case QMessageBox::Cancel:
+        return QStringLiteral("Cancel");
+    case QMessageBox::Close:
+        return QStringLiteral("Close");
+    case QMessageBox::Retry:
+        return QStringLiteral("Retry");
+    case QMessageBox::Ignore:
+        return QStringLiteral("Ignore");
+    case QMessageBox::Abort:
+        return QStringLiteral("Abort");
+    case QMessageBox::Apply:
+        return QStringLiteral("Apply");
+    case QMessageBox::Save:
+        return QStringLiteral("Save");
+    default:
+        return shownText(button);
+    }
 }
 
 bool isInput(QEvent::Type type) {
@@ -67,7 +105,9 @@ bool Recorder::eventFilter(QObject* object, QEvent* event) {
         if (dialog != nullptr && !m_seen) {
             watchDialog(dialog);
         } else if (auto* box = qobject_cast<QMessageBox*>(object)) {
-            watchBox(box);
+            if (!isTrial()) {
+                watchBox(box);
+            }
         }
         return false;
     }
@@ -88,7 +128,7 @@ bool Recorder::eventFilter(QObject* object, QEvent* event) {
 
 void Recorder::watchDialog(IPSERDESIP::protocolGenDlg* dialog) {
     m_seen = true;
-    m_view = DialogView(dialog);
+    m_view = IPSERDESIP::DialogView(dialog);
     QAbstractButton* ok = m_view.okButton();
     QAbstractButton* cancel = m_view.cancelButton();
     const auto widgets = dialog->findChildren<QWidget*>();
@@ -97,9 +137,14 @@ void Recorder::watchDialog(IPSERDESIP::protocolGenDlg* dialog) {
         const bool named = !m_view.nameOf(widget).isEmpty() &&
                            !widget->objectName().startsWith(QLatin1String("qt_"));
         if (named && widget != ok && widget != cancel) {
+            noteStart(widget);
             watchField(widget);
         }
     }
+    // A page after the other, the frame in front.
+    std::stable_sort(m_start.begin(), m_start.end(), [](const Step& a, const Step& b) {
+        return a.target.section(QLatin1Char('/'), 0, 0) < b.target.section(QLatin1Char('/'), 0, 0);
+    });
     if (ok != nullptr) {
         connect(ok, &QAbstractButton::clicked, this, [this] {
             recordStep({Step::Kind::Accept, {}, {}, false});
@@ -112,10 +157,38 @@ void Recorder::watchDialog(IPSERDESIP::protocolGenDlg* dialog) {
     }
 }
 
+void Recorder::noteStart(const QWidget* field) {
+    const auto* edit = qobject_cast<const QLineEdit*>(field);
+    const QVariant value = valueOf(field);
+    if (value.isValid() && (edit == nullptr || !edit->isReadOnly())) {
+        m_start.append({Step::Kind::Set, m_view.nameOf(field), value, false});
+    }
+}
+
+Script Recorder::names() const {
+    Script names;
+    for (const Step& step : m_start) {
+        const auto* edit = qobject_cast<const QLineEdit*>(m_view.find(step.target).widget);
+        if (edit != nullptr && m_view.find(step.target).page == nullptr) {
+            names.append(step);
+        }
+    }
+    return names;
+}
+
+Script Recorder::script() {
+    commitEdited();
+    return m_script + m_answers;
+}
+
+bool Recorder::isTrial() const {
+    return m_view.dialog() != nullptr && m_view.dialog()->isRehearsing();
+}
+
 /// Each class tells by another signal what its user has done, and by none what its rules have.
 void Recorder::watchField(QWidget* field) {
     if (auto* edit = qobject_cast<QLineEdit*>(field)) {
-        connect(edit, &QLineEdit::textEdited, this, [this, edit] { m_edited = edit; });
+        connect(edit, &QLineEdit::textEdited, this, [this, edit] { wasEdited(edit); });
     } else if (auto* combo = qobject_cast<QComboBox*>(field)) {
         connect(combo, QOverload<int>::of(&QComboBox::activated), this,
                 [this, combo](int index) { recordSet(combo, combo->itemText(index)); });
@@ -132,27 +205,53 @@ void Recorder::watchField(QWidget* field) {
         connect(real, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 [this, real] { spinChanged(real); });
     } else if (auto* button = qobject_cast<QAbstractButton*>(field)) {
-        connect(button, &QAbstractButton::clicked, this, [this, button] {
-            recordStep({Step::Kind::Press, m_view.nameOf(button), {}, false});
+        watchButton(button);
+    }
+}
+
+/// Of the frame's buttons only those count that change fields: they have an action, which a key
+/// may trigger as well.
+void Recorder::watchButton(QAbstractButton* button) {
+    const auto pressed = [this, button] {
+        recordStep({Step::Kind::Press, m_view.nameOf(button), {}, false});
+    };
+    const QString name = m_view.nameOf(button);
+    const auto* tool = qobject_cast<QToolButton*>(button);
+    if (m_view.find(name).page != nullptr) {
+        connect(button, &QAbstractButton::clicked, this, pressed);
+    } else if (tool != nullptr &&
+               (name == QLatin1String("frame/undo") || name == QLatin1String("frame/redo"))) {
+        // A step of the frame may stand for several edits, each a step of the script.
+        const QAction* action = tool->defaultAction();
+        connect(action, &QAction::triggered, this, [pressed, action] {
+            for (int i = 0; i < action->property("edits").toInt(); ++i) {
+                pressed();
+            }
         });
+    }
+}
+
+void Recorder::wasEdited(QWidget* field) {
+    if (!isTrial()) {
+        m_edited = field;
     }
 }
 
 void Recorder::spinChanged(QWidget* spin) {
     if (m_handled == spin) {
-        m_edited = spin;
+        wasEdited(spin);
     }
 }
 
 void Recorder::watchBox(QMessageBox* box) {
     connect(box, &QDialog::finished, this, [this, box] {
-        const QAbstractButton* button = box->clickedButton();
+        QAbstractButton* button = box->clickedButton();
         if (button == nullptr) {
             button = escapeAnswer(box);
         }
         // A box without a choice needs no step.
         if (button != nullptr && answersOf(box).size() > 1) {
-            recordAnswer(shownText(button));
+            recordAnswer(plainText(box, button));
         }
     });
 }
@@ -175,6 +274,9 @@ void Recorder::recordSet(const QWidget* field, const QVariant& to) {
 }
 
 void Recorder::recordStep(const Step& step) {
+    if (isTrial()) {
+        return;
+    }
     commitEdited();
     m_script.append(m_answers);
     m_answers.clear();

@@ -49,4 +49,37 @@ QVariantMap Report::toMap() const {
     return map;
 }
 
+Report Report::fromMap(const QVariantMap& map) {
+    Report report;
+    report.result = Result::Failed;
+    const QString name = map.value(QStringLiteral("result")).toString();
+    for (const Result result : {Result::Accepted, Result::Cancelled, Result::Refused}) {
+        Report named;
+        named.result = result;
+        if (named.resultName() == name) {
+            report.result = result;
+        }
+    }
+    report.error = map.value(QStringLiteral("error")).toString();
+    const QVariantList shown = map.value(QStringLiteral("messages")).toList();
+    for (const QVariant& one : shown) {
+        const QVariantMap message = one.toMap();
+        report.messages.append({message.value(QStringLiteral("title")).toString(),
+                                message.value(QStringLiteral("text")).toString(),
+                                message.value(QStringLiteral("buttons")).toStringList(),
+                                message.value(QStringLiteral("answer")).toString()});
+    }
+    const QVariantList refusals = map.value(QStringLiteral("refused")).toList();
+    for (const QVariant& one : refusals) {
+        const QVariantMap refusal = one.toMap();
+        report.refused.append({refusal.value(QStringLiteral("step")).toInt(),
+                               refusal.value(QStringLiteral("why")).toString()});
+    }
+    report.states = map.value(QStringLiteral("states")).toMap();
+    report.figures = map.value(QStringLiteral("figures")).toMap();
+    report.details = map.value(QStringLiteral("details")).toStringList();
+    report.config = map.value(QStringLiteral("config")).toMap();
+    return report;
+}
+
 } // namespace Ipgen::Session

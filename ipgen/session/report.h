@@ -54,6 +54,8 @@ struct Report {
     QString resultName() const;
     /// The report's JSON object.
     QVariantMap toMap() const;
+    /// What toMap() has written, without the pins.
+    static Report fromMap(const QVariantMap& map);
 };
 
 } // namespace Ipgen::Session

@@ -183,6 +183,9 @@ QByteArray writeScript(const Script& script) {
 }
 
 QString stepName(const Step& step) {
+    if (step.kind == Step::Kind::Preset) {
+        return QLatin1String("preset ") + step.target;
+    }
     const Word& word = wordOf(step.kind);
     const QString name = QLatin1String(word.text);
     return word.named ? name + QLatin1Char(' ') + step.target : name;

@@ -11,6 +11,7 @@ namespace Ipgen::Session {
 struct Step {
     enum class Kind {
         Set,    ///< gives the field `target` the value `to`
+        Preset, ///< applies the preset `to`, whose name is `target`; no word of a script
         Press,  ///< clicks the button `target`
         Answer, ///< takes the button whose text is `target` in the next message box that asks
         State,  ///< records a snapshot under the label `target`

@@ -1,5 +1,6 @@
 #include "ipgen/session/snapshot.h"
 
+#include <serdesip/dialogview.h>
 #include <serdesip/protocolgendlg.h>
 
 #include <QCheckBox>
@@ -9,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTabWidget>
 
 namespace Ipgen::Session {
 
@@ -145,6 +147,19 @@ QVariantMap snapshotOfPage(const QWidget* page) {
                           {key("visible"), visible}};
         kind->describer(*widget, &entry);
         all.insert(name, entry);
+    }
+    return all;
+}
+
+QVariantMap snapshotOf(const IPSERDESIP::DialogView& view) {
+    QVariantMap all;
+    const QTabWidget* tabs = view.tabs();
+    for (int i = 0; tabs != nullptr && i < tabs->count(); ++i) {
+        const QString prefix = QStringLiteral("tab%1/").arg(i + 1);
+        const QVariantMap page = snapshotOfPage(tabs->widget(i));
+        for (auto it = page.begin(); it != page.end(); ++it) {
+            all.insert(prefix + it.key(), it.value());
+        }
     }
     return all;
 }

@@ -223,6 +223,234 @@
     </message>
 </context>
 <context>
+    <name>IPSERDESIP::ManagePresetsDialog</name>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Replace it?</source>
+        <translation>Eine Vorlage „%1“ gibt es schon. Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Manage presets</source>
+        <translation>Vorlagen verwalten</translation>
+    </message>
+    <message>
+        <source>Your presets</source>
+        <translation>Eigene Vorlagen</translation>
+    </message>
+    <message>
+        <source>Rename …</source>
+        <translation>Umbenennen …</translation>
+    </message>
+    <message>
+        <source>Give the chosen preset another name (F2)</source>
+        <translation>Der gewählten Vorlage einen anderen Namen geben (F2)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Delete the chosen preset (Del)</source>
+        <translation>Die gewählte Vorlage löschen (Entf)</translation>
+    </message>
+    <message>
+        <source>Your presets:</source>
+        <translation>Eigene Vorlagen:</translation>
+    </message>
+    <message>
+        <source>Damaged: %1: %2</source>
+        <translation>Beschädigt: %1: %2</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Soll die Vorlage „%1“ gelöscht werden?</translation>
+    </message>
+</context>
+<context>
+    <name>IPSERDESIP::PresetPanel</name>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>Save as preset …</source>
+        <translation>Als Vorlage speichern …</translation>
+    </message>
+    <message>
+        <source>Keep what the pages show under a name</source>
+        <translation>Was die Seiten zeigen, unter einem Namen aufheben</translation>
+    </message>
+    <message>
+        <source>Manage presets …</source>
+        <translation>Vorlagen verwalten …</translation>
+    </message>
+    <message>
+        <source>Rename and delete your presets</source>
+        <translation>Eigene Vorlagen umbenennen und löschen</translation>
+    </message>
+    <message>
+        <source>No preset for this device</source>
+        <translation>Keine Vorlage für diesen Baustein</translation>
+    </message>
+    <message>
+        <source>Manage presets (%1 damaged) …</source>
+        <translation>Vorlagen verwalten (%1 beschädigt) …</translation>
+    </message>
+    <message>
+        <source>Your presets</source>
+        <translation>Eigene Vorlagen</translation>
+    </message>
+    <message>
+        <source>Presets of the IP</source>
+        <translation>Vorlagen des IPs</translation>
+    </message>
+    <message>
+        <source>File options</source>
+        <translation>Dateiangaben</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>Finding out what the preset would change has changed fields itself. Look through the pages.</source>
+        <translation>Schon das Nachsehen, was die Vorlage ändern würde, hat Felder geändert. Bitte die Seiten durchsehen.</translation>
+    </message>
+    <message>
+        <source>The preset has come out in another way than shown: %1 fields have changed. Undo takes them back.</source>
+        <translation>Die Vorlage hat anderes bewirkt als gezeigt: %1 Felder haben sich geändert. „Rückgängig“ nimmt sie zurück.</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; applied, changes: %2</source>
+        <translation>Vorlage „%1“ angewendet, Änderungen: %2</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; applied, changes: %2, not taken over: %3</source>
+        <translation>Vorlage „%1“ angewendet, Änderungen: %2, nicht übernommen: %3</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; saved</source>
+        <translation>Vorlage „%1“ gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>IPSERDESIP::PresetPreview</name>
+    <message>
+        <source>What changes</source>
+        <translation>Was sich ändert</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Dann</translation>
+    </message>
+    <message>
+        <source>Apply the preset &quot;%1&quot;</source>
+        <translation>Vorlage „%1“ anwenden</translation>
+    </message>
+    <message>
+        <source>No field changes: the dialog shows the preset&apos;s values.</source>
+        <translation>Kein Feld ändert sich: Der Dialog zeigt die Werte der Vorlage.</translation>
+    </message>
+    <message>
+        <source>Changes: %1. One Undo takes all of them back.</source>
+        <translation>Änderungen: %1. Einmal „Rückgängig“ nimmt alle zurück.</translation>
+    </message>
+    <message>
+        <source>Not taken over:</source>
+        <translation>Nicht übernommen:</translation>
+    </message>
+    <message>
+        <source>The rules say:</source>
+        <translation>Die Regeln melden:</translation>
+    </message>
+    <message>
+        <source>Set these fields</source>
+        <translation>Diese Felder setzen</translation>
+    </message>
+</context>
+<context>
+    <name>IPSERDESIP::SavePresetDialog</name>
+    <message>
+        <source>Save as preset</source>
+        <translation>Als Vorlage speichern</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Such as: Backplane, 4 lanes</source>
+        <translation>Etwa: Rückwand, 4 Lanes</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Offered for</source>
+        <translation>Angeboten für</translation>
+    </message>
+    <message>
+        <source>The preset is offered for these devices only</source>
+        <translation>Die Vorlage wird nur für diese Bausteine angeboten</translation>
+    </message>
+    <message>
+        <source>Devices of the class %1</source>
+        <translation>Bausteine der Klasse %1</translation>
+    </message>
+    <message>
+        <source>%1 only</source>
+        <translation>Nur %1</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation>Alle Bausteine</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Offered for:</source>
+        <translation>Angeboten für:</translation>
+    </message>
+    <message>
+        <source>Saves what the pages&apos; open fields show now: %1 of them.</source>
+        <translation>Speichert, was die offenen Felder der Seiten jetzt zeigen: %1 Felder.</translation>
+    </message>
+    <message>
+        <source>In a new dialog these would not come out as they are now:</source>
+        <translation>In einem neuen Dialog kämen diese nicht so heraus, wie sie jetzt sind:</translation>
+    </message>
+</context>
+<context>
     <name>IPSERDESIP::protocolGenDlg</name>
     <message>
         <source>Undo</source>
@@ -363,6 +591,74 @@
     <message>
         <source>The module name &quot;%1&quot; is used by the instance &quot;%2&quot;: a design can hold a module only once.</source>
         <translation>Den Modulnamen „%1“ verwendet die Instanz „%2“: ein Entwurf kann ein Modul nur einmal enthalten.</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>Apply a preset, or keep the fields as one</source>
+        <translation>Eine Vorlage anwenden oder die Felder als Vorlage aufheben</translation>
+    </message>
+    <message>
+        <source>Copy as session script</source>
+        <translation>Als Sitzungsskript kopieren</translation>
+    </message>
+    <message>
+        <source>Put a script on the clipboard that makes a new instance with these settings</source>
+        <translation>Ein Skript in die Zwischenablage legen, das eine neue Instanz mit diesen Einstellungen anlegt</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>Die letzte Änderung zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Do again what was undone</source>
+        <translation>Zurückgenommenes wiederherstellen</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Vorlage braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name neither begins nor ends with a blank.</source>
+        <translation>Der Name einer Vorlage beginnt und endet nicht mit einem Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name does not end with &quot;.json&quot;, which says that a file is meant.</source>
+        <translation>Der Name einer Vorlage endet nicht auf „.json“: Das hieße, dass eine Datei gemeint ist.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has printable characters only.</source>
+        <translation>Der Name einer Vorlage hat nur druckbare Zeichen.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; came with the IP: choose another name.</source>
+        <translation>Die Vorlage „%1“ gehört zum IP: Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1.</source>
+        <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>%1 exists and is damaged: it is not overwritten.</source>
+        <translation>%1 gibt es, und die Datei ist beschädigt: Sie wird nicht überschrieben.</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Es gibt keine Vorlage „%1“.</translation>
+    </message>
+    <message>
+        <source>The session script is on the clipboard</source>
+        <translation>Das Sitzungsskript liegt in der Zwischenablage</translation>
+    </message>
+    <message>
+        <source>No steps have been found that lead a new instance here: %1</source>
+        <translation>Es wurden keine Schritte gefunden, die eine neue Instanz hierher führen: %1</translation>
     </message>
 </context>
 <context>

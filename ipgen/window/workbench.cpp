@@ -1,6 +1,7 @@
 #include "ipgen/window/workbench.h"
 
 #include "ipgen/core/installation.h"
+#include "ipgen/session/frameloan.h"
 #include "ipgen/window/filehistory.h"
 #include "ipgen/window/undo.h"
 
@@ -324,6 +325,7 @@ Status Workbench::createInstance(const QString& name, const QString& ip, bool* a
     }
     IPSERDESIP::ConfigMap config;
     entry->protocol->setDevice(m_device);
+    const Ipgen::Session::FrameLoan frame(*entry, *m_project, name);
     Status ran = runDialog(
         name, [&] { return entry->protocol->create(name, m_device); }, &config);
     if (!ran.ok() || config.isEmpty()) {
@@ -347,6 +349,7 @@ Status Workbench::openInstance(const QString& name, bool* accepted) {
     }
     IPSERDESIP::ConfigMap config;
     entry->protocol->setDevice(m_device);
+    const Ipgen::Session::FrameLoan frame(*entry, *m_project, name);
     IPSERDESIP::serdes::instance()->setEditing(name);
     Status ran = runDialog(
         name, [&] { return entry->protocol->open(instance.config); }, &config);

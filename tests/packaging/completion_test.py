@@ -60,6 +60,10 @@ class Completion(unittest.TestCase):
                          ["RZ7X-60B", "RZ7X-60ES"])
         self.assertEqual(self.answers("create", "board", "x", "--ip", ""), ["customized"])
 
+    def test_presets_by_name(self):
+        self.assertEqual(self.answers("create", "board", "x", "--preset", "Vid"),
+                         ["Video,\\", "2.97G\\", "raw"])
+
     def test_a_project_and_its_instances(self):
         self.assertEqual(self.answers("generate", ""), ["FILES"])
         self.assertEqual(self.answers("generate", "board", "li"), ["link0", "link1"])

@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -41,11 +42,13 @@ void addField(QGridLayout* grid, int row, int column, const QString& caption, QW
     grid->addWidget(field, row, column + 1, 1, columnSpan);
 }
 
-QToolButton* historyButton(QDialog& dialog, QAction*& action, const char* name, const QString& text,
-                           QKeySequence::StandardKey keys) {
+/// A button for an action with a key. Its tooltip says what it does, and the key.
+QToolButton* actionButton(QDialog& dialog, QAction*& action, const char* name, const QString& text,
+                          const QString& what, const QKeySequence& keys) {
     action = new QAction(text, &dialog);
     action->setShortcut(keys);
-    action->setEnabled(false);
+    action->setToolTip(
+        QStringLiteral("%1 (%2)").arg(what, keys.toString(QKeySequence::NativeText)));
     auto* button = named(new QToolButton, name, text);
     button->setDefaultAction(action);
     button->setAutoRaise(true);
@@ -63,10 +66,33 @@ QLayout* header(DialogFrame& frame, QDialog& dialog) {
     frame.deviceName->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* row = new QHBoxLayout;
     row->addWidget(frame.label, 1);
-    row->addWidget(
-        historyButton(dialog, frame.undo, "undo", protocolGenDlg::tr("Undo"), QKeySequence::Undo));
-    row->addWidget(
-        historyButton(dialog, frame.redo, "redo", protocolGenDlg::tr("Redo"), QKeySequence::Redo));
+    frame.presetButton =
+        actionButton(dialog, frame.presets, "presets", protocolGenDlg::tr("Presets"),
+                     protocolGenDlg::tr("Apply a preset, or keep the fields as one"),
+                     QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_P));
+    frame.presetMenu =
+        named(new QMenu(frame.presetButton), "presetMenu", protocolGenDlg::tr("Presets"));
+    frame.presetMenu->setToolTipsVisible(true);
+    frame.presetButton->setMenu(frame.presetMenu);
+    frame.presetButton->setPopupMode(QToolButton::InstantPopup);
+    frame.copyScriptButton = actionButton(
+        dialog, frame.copyScript, "copyScript", protocolGenDlg::tr("Copy as session script"),
+        protocolGenDlg::tr(
+            "Put a script on the clipboard that makes a new instance with these settings"),
+        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
+    for (QToolButton* lent : {frame.presetButton, frame.copyScriptButton}) {
+        lent->hide(); // until the program lends what they need
+        row->addWidget(lent);
+    }
+    row->addWidget(actionButton(dialog, frame.undo, "undo", protocolGenDlg::tr("Undo"),
+                                protocolGenDlg::tr("Undo the last edit"),
+                                QKeySequence(QKeySequence::Undo)));
+    row->addWidget(actionButton(dialog, frame.redo, "redo", protocolGenDlg::tr("Redo"),
+                                protocolGenDlg::tr("Do again what was undone"),
+                                QKeySequence(QKeySequence::Redo)));
+    for (QAction* action : {frame.presets, frame.copyScript, frame.undo, frame.redo}) {
+        action->setEnabled(false);
+    }
     row->addSpacing(12);
     row->addWidget(frame.deviceName);
     return row;

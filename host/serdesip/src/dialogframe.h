@@ -8,10 +8,12 @@ class QDialog;
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
+class QMenu;
 class QPlainTextEdit;
 class QPushButton;
 class QTabBar;
 class QTabWidget;
+class QToolButton;
 
 namespace IPSERDESIP {
 
@@ -22,6 +24,11 @@ class FigureView;
 struct DialogFrame {
     QLabel* label = nullptr;
     QLabel* deviceName = nullptr;
+    QAction* presets = nullptr;
+    QToolButton* presetButton = nullptr;
+    QMenu* presetMenu = nullptr;
+    QAction* copyScript = nullptr;
+    QToolButton* copyScriptButton = nullptr;
     QAction* undo = nullptr;
     QAction* redo = nullptr;
     QLineEdit* fileName = nullptr;

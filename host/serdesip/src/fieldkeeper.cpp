@@ -80,37 +80,83 @@ void FieldKeeper::settle() {
 void FieldKeeper::record() {
     const QStringList now = values();
     const int field = m_edited;
-    if (field < 0) {
+    if (field < 0 || m_held) {
         return; // text being typed, or a rule at work: part of the step that the edit will make
     }
     m_edited = -1;
+    append(field, now, 1);
+}
+
+void FieldKeeper::append(int field, const QStringList& now, int edits) {
     if (now == m_current) {
         return;
     }
     m_steps.resize(m_done);
-    m_steps.append({field, m_current, now});
+    m_steps.append({field, m_current, now, edits});
     m_done = m_steps.size();
     m_current = now;
     Q_EMIT historyChanged();
 }
 
-void FieldKeeper::undo() {
+void FieldKeeper::perform(const std::function<void()>& edits) {
     record();
-    if (canUndo()) {
-        const Step& step = m_steps.at(--m_done);
-        apply(step.before, step.edited);
-    }
+    m_held = true;
+    m_performed = 0;
+    m_between = values();
+    edits();
+    m_held = false;
+    m_edited = -1;
+    append(-1, values(), m_performed);
+    updateMarks();
 }
 
-void FieldKeeper::redo() {
-    record();
-    if (canRedo()) {
-        const Step& step = m_steps.at(m_done++);
-        apply(step.after, step.edited);
+void FieldKeeper::noteEdit() {
+    const QStringList now = values();
+    if (m_edited >= 0 && now != m_between) {
+        ++m_performed;
+        m_between = now;
     }
+    m_edited = -1;
 }
 
-void FieldKeeper::apply(const QStringList& wanted, int first) {
+bool FieldKeeper::rehearse(const std::function<void()>& edits, QStringList* outcome) {
+    record();
+    const QStringList before = values();
+    m_held = true;
+    edits();
+    *outcome = values();
+    show(before);
+    m_held = false;
+    m_edited = -1;
+    updateMarks();
+    return values() == before;
+}
+
+int FieldKeeper::undo() {
+    record();
+    if (!canUndo()) {
+        return 0;
+    }
+    const Step& step = m_steps.at(--m_done);
+    const int edits = step.edits;
+    show(step.before, step.edited);
+    stepTaken();
+    return edits;
+}
+
+int FieldKeeper::redo() {
+    record();
+    if (!canRedo()) {
+        return 0;
+    }
+    const Step& step = m_steps.at(m_done++);
+    const int edits = step.edits;
+    show(step.after, step.edited);
+    stepTaken();
+    return edits;
+}
+
+void FieldKeeper::show(const QStringList& wanted, int first) {
     m_applying = true;
     const auto put = [&](int i) {
         QWidget& field = *m_fields.at(i);
@@ -131,6 +177,9 @@ void FieldKeeper::apply(const QStringList& wanted, int first) {
         }
     }
     m_applying = false;
+}
+
+void FieldKeeper::stepTaken() {
     m_edited = -1;
     m_current = values();
     updateMarks();
@@ -160,6 +209,7 @@ bool FieldKeeper::differs(QWidget* field) const {
 void FieldKeeper::resetField(QWidget* field) {
     if (differs(field)) {
         fieldvalue::write(*field, defaultOf(field));
+        fieldvalue::tellEdited(*field); // a user's doing, for those who write it down
         edited(field);
     }
 }

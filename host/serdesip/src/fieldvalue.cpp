@@ -2,9 +2,12 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace IPSERDESIP::fieldvalue {
 
@@ -59,6 +62,46 @@ void write(QWidget& field, const QString& value) {
     } else if (auto* spin = qobject_cast<QSpinBox*>(&field)) {
         spin->setValue(value.toInt());
     }
+}
+
+void tellEdited(QWidget& field) {
+    if (auto* edit = qobject_cast<QLineEdit*>(&field)) {
+        Q_EMIT edit->textEdited(edit->text());
+    } else if (auto* combo = qobject_cast<QComboBox*>(&field)) {
+        Q_EMIT combo->activated(combo->currentIndex());
+    } else if (auto* box = qobject_cast<QCheckBox*>(&field)) {
+        Q_EMIT box->clicked(box->isChecked());
+    }
+}
+
+QVariant typedValue(const QWidget& field) {
+    if (const auto* box = qobject_cast<const QCheckBox*>(&field)) {
+        return box->isChecked();
+    }
+    if (const auto* spin = qobject_cast<const QSpinBox*>(&field)) {
+        return spin->value();
+    }
+    return read(field);
+}
+
+QString captionOf(const QWidget& field) {
+    QString caption;
+    if (const auto* box = qobject_cast<const QCheckBox*>(&field)) {
+        caption = box->text();
+    }
+    if (caption.isEmpty()) {
+        const QList<QLabel*> labels = field.window()->findChildren<QLabel*>();
+        const auto own = std::find_if(labels.begin(), labels.end(), [&](const QLabel* label) {
+            return label->buddy() == &field;
+        });
+        caption = own != labels.end() ? (*own)->text() : field.accessibleName();
+    }
+    caption.remove(QLatin1Char('&'));
+    caption = caption.trimmed();
+    while (caption.endsWith(QLatin1Char(':'))) {
+        caption.chop(1);
+    }
+    return caption.isEmpty() ? field.objectName() : caption;
 }
 
 bool canShow(const QWidget& field, const QString& value) {

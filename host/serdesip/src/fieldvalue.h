@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QVariant>
 
 class QWidget;
 
@@ -18,6 +19,12 @@ QList<QWidget*> fieldsOf(const QWidget& root);
 QString read(const QWidget& field);
 /// Sets the field as a user would, so that the rules run that listen to it.
 void write(QWidget& field, const QString& value);
+/// Sends what the field sends besides when it is a user who has set it.
+void tellEdited(QWidget& field);
+/// What a script or a preset says for the value that the field shows: text, boolean or number.
+QVariant typedValue(const QWidget& field);
+/// The field's name for the user: its label's text, else its own, without mnemonic and colon.
+QString captionOf(const QWidget& field);
 /// Whether the field can show the value: a combo box only what it lists.
 bool canShow(const QWidget& field, const QString& value);
 

@@ -6,6 +6,8 @@
 #include "fieldvalue.h"
 #include "figureview.h"
 #include "namerules.h"
+#include "presetpanel.h"
+#include "serdesip/frameservices.h"
 #include "serdesip/serdes.h"
 
 #include <core/idecore.h>
@@ -14,6 +16,7 @@
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
@@ -27,6 +30,7 @@
 #include <QShowEvent>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QUrl>
 
 #include <dlfcn.h>
@@ -36,6 +40,7 @@ namespace IPSERDESIP {
 struct protocolGenDlg::Private {
     DialogFrame frame;
     FieldKeeper keeper;
+    std::unique_ptr<PresetPanel> presets;
     DEV::DeviceArg device;
     bool opening = false;
     bool pathConnected = false;
@@ -49,6 +54,12 @@ struct protocolGenDlg::Private {
     void showFigure(const QList<Utils::PinFigure>& pins) const {
         frame.figure->setFigure(frame.moduleName->text(), pins);
         frame.portCount->setText(tr("Ports: %1").arg(pins.size()));
+    }
+
+    void offerScript() const {
+        const bool lent = FrameServices::current().writeScript != nullptr;
+        frame.copyScriptButton->setVisible(lent);
+        frame.copyScript->setEnabled(lent);
     }
 
     void takeDevice(const DEV::DeviceArg& taken) {
@@ -117,8 +128,25 @@ protocolGenDlg::protocolGenDlg(QWidget* parent)
     });
     connect(d->frame.moduleName, &QLineEdit::textChanged, this,
             [this] { d->showFigure(figurePins()); });
-    connect(d->frame.undo, &QAction::triggered, &d->keeper, &FieldKeeper::undo);
-    connect(d->frame.redo, &QAction::triggered, &d->keeper, &FieldKeeper::redo);
+    d->presets = std::make_unique<PresetPanel>(*this, d->frame, d->keeper);
+    connect(d->frame.copyScript, &QAction::triggered, this, [this] {
+        d->frame.tabBar->setFocus(Qt::OtherFocusReason); // ends the edit that is going on
+        QByteArray script;
+        const QString failed = FrameServices::current().writeScript(this, &script);
+        if (failed.isEmpty()) {
+            QGuiApplication::clipboard()->setText(QString::fromUtf8(script));
+            d->frame.strip->setText(tr("The session script is on the clipboard"));
+        } else {
+            QMessageBox::warning(
+                this, tr("Copy as session script"),
+                tr("No steps have been found that lead a new instance here: %1").arg(failed));
+        }
+    });
+    // Who writes down what the user does asks the actions how many edits they have taken.
+    connect(d->frame.undo, &QAction::triggered, this,
+            [this] { d->frame.undo->setProperty("edits", d->keeper.undo()); });
+    connect(d->frame.redo, &QAction::triggered, this,
+            [this] { d->frame.redo->setProperty("edits", d->keeper.redo()); });
     connect(&d->keeper, &FieldKeeper::historyChanged, this, [this] {
         d->frame.undo->setEnabled(d->keeper.canUndo());
         d->frame.redo->setEnabled(d->keeper.canRedo());
@@ -196,6 +224,10 @@ QString protocolGenDlg::createPath() const {
         Core::ViewManager::reportError(fileName(), faults.join(QLatin1Char(' ')));
     }
     return folderOf(faults.isEmpty() ? fileName() : QString());
+}
+
+bool protocolGenDlg::isRehearsing() const {
+    return d->presets->isRehearsing();
 }
 
 QList<Utils::PinFigure> protocolGenDlg::figurePins() const {
@@ -287,6 +319,8 @@ bool protocolGenDlg::event(QEvent* event) {
     case QEvent::Show:
         d->frame.help->setEnabled(!helpPath(metaObject(), m_helpDocument).isEmpty());
         d->frame.orderFields();
+        d->presets->start();
+        d->offerScript();
         break;
     case QEvent::WindowBlocked:
         d->lastMessage = messageOf(QApplication::activeModalWidget());

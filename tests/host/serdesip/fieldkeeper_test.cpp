@@ -132,6 +132,8 @@ private Q_SLOTS:
     void markLiesAtItsField();
     void resetOneField();
     void menuResets();
+    void severalEditsInOneStep();
+    void rehearsalLeavesNoTrace();
     void maskedValuesKeepZeros();
 };
 
@@ -295,6 +297,50 @@ void FieldKeeperTest::menuResets() {
     menu->close();
     QApplication::processEvents();
     QVERIFY(!page.lane->isChecked());
+}
+
+void FieldKeeperTest::severalEditsInOneStep() {
+    Page page;
+    page.click(page.lane);
+    page.keeper.perform([&] {
+        page.type(page.rate, "0.5");
+        page.keeper.noteEdit();
+        page.choose(page.mode, Qt::Key_Down);
+        page.keeper.noteEdit();
+        page.type(page.rate, "0.5"); // changes nothing
+        page.keeper.noteEdit();
+        page.click(page.lane);
+        page.keeper.noteEdit();
+    });
+    QCOMPARE(page.state(), QStringLiteral("0.5 5x Manual 7 false 0101"));
+    QCOMPARE(page.keeper.undo(), 3);
+    QCOMPARE(page.state(), QStringLiteral("1.25 NA Auto 7 true 0101"));
+    page.keeper.redo();
+    QCOMPARE(page.state(), QStringLiteral("0.5 5x Manual 7 false 0101"));
+    QCOMPARE(page.keeper.undo(), 3);
+    QCOMPARE(page.keeper.undo(), 1);
+    QCOMPARE(page.state(), QStringLiteral("1.25 NA Auto 7 false 0101"));
+    QCOMPARE(page.keeper.undo(), 0);
+}
+
+void FieldKeeperTest::rehearsalLeavesNoTrace() {
+    Page page;
+    page.click(page.lane);
+    page.keeper.undo();
+    QStringList outcome;
+    const bool restored = page.keeper.rehearse(
+        [&] {
+            page.type(page.rate, "0.5");
+            page.choose(page.mode, Qt::Key_Down);
+        },
+        &outcome);
+    QVERIFY(restored);
+    QCOMPARE(outcome.join(QLatin1Char(' ')), QStringLiteral("0.5 5x Manual 7 false 0101"));
+    QCOMPARE(page.state(), QStringLiteral("1.25 NA Auto 7 false 0101"));
+    QApplication::processEvents();
+    QVERIFY(!page.keeper.canUndo());
+    QVERIFY(page.keeper.canRedo()); // the history is what it was
+    QCOMPARE(page.marks(), 0);
 }
 
 void FieldKeeperTest::maskedValuesKeepZeros() {

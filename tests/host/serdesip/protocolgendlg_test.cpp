@@ -1,6 +1,7 @@
 // The frame of the protocol dialogs: names, device, path, checks and their boxes.
 
 #include "namerules.h"
+#include "serdesip/frameservices.h"
 #include "serdesip/protocolgendlg.h"
 #include "serdesip/serdes.h"
 
@@ -11,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -21,6 +23,7 @@
 #include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -147,6 +150,8 @@ private Q_SLOTS:
     void messageStripRepeatsTheLastMessage();
     void questionsAreNotRepeated();
     void helpButton();
+    void frameOffersWhatIsLent();
+    void copiedScript();
     void accessibleAndInReach();
     void fitsASmallScreen();
 };
@@ -583,6 +588,66 @@ void ProtocolGenDlgTest::helpButton() {
     dialog.m_helpDocument = QStringLiteral(__FILE__);
     dialog.show();
     QCOMPARE(help->isEnabled(), QStringLiteral(__FILE__).startsWith(QLatin1Char('/')));
+}
+
+void ProtocolGenDlgTest::frameOffersWhatIsLent() {
+    {
+        TestDialog dialog;
+        dialog.show();
+        QVERIFY(!dialog.field<QToolButton>("presets")->isVisible());
+        QVERIFY(!dialog.field<QToolButton>("copyScript")->isVisible());
+        QVERIFY(!dialog.field<QToolButton>("copyScript")->defaultAction()->isEnabled());
+    }
+    const QTemporaryDir own;
+    IPSERDESIP::FrameServices services;
+    services.ownPresets = own.path();
+    services.writeScript = [](IPSERDESIP::protocolGenDlg*, QByteArray*) { return QString(); };
+    IPSERDESIP::FrameServices::lend(services);
+    {
+        TestDialog dialog;
+        dialog.show();
+        for (const char* name : {"presets", "copyScript", "undo", "redo"}) {
+            const auto* button = dialog.field<QToolButton>(name);
+            QVERIFY2(button->isVisible(), name);
+            QVERIFY2(!button->accessibleName().isEmpty(), name);
+            const QString key = button->defaultAction()->shortcut().toString();
+            QVERIFY2(!key.isEmpty(), name);
+            QVERIFY2(button->toolTip().endsWith(QLatin1Char('(') + key + QLatin1Char(')')),
+                     qPrintable(button->toolTip()));
+        }
+        for (const char* name : {"savePreset", "managePresets"}) {
+            const auto* action = dialog.field<QAction>(name);
+            QVERIFY2(action->isEnabled() && !action->shortcut().isEmpty(), name);
+            QVERIFY2(!action->toolTip().isEmpty(), name);
+        }
+    }
+    IPSERDESIP::FrameServices::lend({});
+}
+
+void ProtocolGenDlgTest::copiedScript() {
+    QString failure;
+    IPSERDESIP::FrameServices services;
+    services.writeScript = [&](IPSERDESIP::protocolGenDlg*, QByteArray* script) {
+        *script = "[\n]\n";
+        return failure;
+    };
+    IPSERDESIP::FrameServices::lend(services);
+    {
+        TestDialog dialog;
+        dialog.show();
+        QAction* copy = dialog.field<QToolButton>("copyScript")->defaultAction();
+        QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+        failure = QStringLiteral("tab1/x");
+        const QList<Box> boxes = boxesDuring([&] { copy->trigger(); });
+        QCOMPARE(boxes.size(), 1);
+        QVERIFY2(boxes.first().text.endsWith(QLatin1String(": tab1/x")),
+                 qPrintable(boxes.first().text));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+        failure.clear();
+        QVERIFY(boxesDuring([&] { copy->trigger(); }).isEmpty());
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("[\n]\n"));
+    }
+    IPSERDESIP::FrameServices::lend({});
 }
 
 void ProtocolGenDlgTest::accessibleAndInReach() {

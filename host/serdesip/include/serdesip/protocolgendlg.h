@@ -44,6 +44,9 @@ public:
     /// left out; IPCore::makeDirs() and generator::generate() refuse what is then built on it.
     QString createPath() const;
 
+    /// While true, the fields change for a trial that is put back: it is no doing of the user's.
+    bool isRehearsing() const;
+
     /// The pins that the figure shows.
     QList<Utils::PinFigure> figurePins() const;
 

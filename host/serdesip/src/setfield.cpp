@@ -1,6 +1,6 @@
-#include "ipgen/session/fields.h"
+#include "setfield.h"
 
-#include "ipgen/session/hands.h"
+#include "serdesip/hands.h"
 
 #include <QAbstractItemModel>
 #include <QCheckBox>
@@ -13,9 +13,11 @@
 
 #include <cmath>
 
-namespace Ipgen::Session {
+namespace IPSERDESIP {
 
 namespace {
+
+using namespace Hands;
 
 QString quoted(const QString& text) {
     return QLatin1Char('"') + text + QLatin1Char('"');
@@ -269,4 +271,4 @@ QString setField(QWidget* field, const QVariant& to, QWidget* rest) {
            QStringLiteral(" is no field that can be set");
 }
 
-} // namespace Ipgen::Session
+} // namespace IPSERDESIP

@@ -1,4 +1,4 @@
-#include "ipgen/session/hands.h"
+#include "serdesip/hands.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -10,7 +10,7 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-namespace Ipgen::Session {
+namespace IPSERDESIP::Hands {
 
 namespace {
 
@@ -110,4 +110,4 @@ bool chooseItem(QComboBox* combo, int index) {
     return true;
 }
 
-} // namespace Ipgen::Session
+} // namespace IPSERDESIP::Hands

@@ -1,13 +1,14 @@
-#include "ipgen/session/dialogview.h"
+#include "serdesip/dialogview.h"
 
-#include "ipgen/session/snapshot.h"
+#include "setfield.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTabBar>
 
-namespace Ipgen::Session {
+namespace IPSERDESIP {
 
 namespace {
 
@@ -40,7 +41,7 @@ QAbstractButton* standardButton(const QWidget* dialog, QDialogButtonBox::Standar
 
 } // namespace
 
-DialogView::DialogView(IPSERDESIP::protocolGenDlg* dialog)
+DialogView::DialogView(protocolGenDlg* dialog)
     : m_dialog(dialog) {
     m_tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tabs"));
     if (m_tabs == nullptr) {
@@ -48,7 +49,7 @@ DialogView::DialogView(IPSERDESIP::protocolGenDlg* dialog)
     }
 }
 
-IPSERDESIP::protocolGenDlg* DialogView::dialog() const {
+protocolGenDlg* DialogView::dialog() const {
     return m_dialog;
 }
 
@@ -137,20 +138,18 @@ QAbstractButton* DialogView::cancelButton() const {
     return standardButton(m_dialog, QDialogButtonBox::Cancel);
 }
 
-QVariantMap DialogView::state() const {
-    QVariantMap all;
-    for (int i = 0; m_tabs != nullptr && i < m_tabs->count(); ++i) {
-        const QString prefix = QStringLiteral("tab%1/").arg(i + 1);
-        const QVariantMap page = snapshotOfPage(m_tabs->widget(i));
-        for (auto it = page.begin(); it != page.end(); ++it) {
-            all.insert(prefix + it.key(), it.value());
-        }
+QString DialogView::setField(const QString& name, const QVariant& to) const {
+    const Place place = find(name);
+    if (place.widget == nullptr) {
+        return place.why;
     }
-    return all;
+    const QString why = whyOutOfReach(place);
+    if (!why.isEmpty()) {
+        return why;
+    }
+    bringIntoSight(place);
+    QTabWidget* pages = tabs();
+    return IPSERDESIP::setField(place.widget, to, pages == nullptr ? nullptr : pages->tabBar());
 }
 
-QVariantList DialogView::figure() const {
-    return figureOf(*m_dialog);
-}
-
-} // namespace Ipgen::Session
+} // namespace IPSERDESIP

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <serdesip/protocolgendlg.h>
+#include "serdesip/export.h"
+#include "serdesip/protocolgendlg.h"
 
 #include <QPointer>
 #include <QString>
@@ -8,20 +9,19 @@
 #include <QVariant>
 
 class QAbstractButton;
-
 class QWidget;
 
-namespace Ipgen::Session {
+namespace IPSERDESIP {
 
 /// An IP's dialog as a user sees it: numbered pages with named objects, the host's own fields
 /// around them, OK and Cancel. Knows widget classes, no dialog in particular.
-class DialogView {
+class HOST_SERDESIP_EXPORT DialogView {
 public:
     DialogView() = default;
-    explicit DialogView(IPSERDESIP::protocolGenDlg* dialog);
+    explicit DialogView(protocolGenDlg* dialog);
 
     /// Null once the dialog is gone.
-    IPSERDESIP::protocolGenDlg* dialog() const;
+    protocolGenDlg* dialog() const;
     /// The tab strip that the pages stand in; null when the dialog has none.
     QTabWidget* tabs() const { return m_tabs; }
 
@@ -46,14 +46,13 @@ public:
     QAbstractButton* okButton() const;
     QAbstractButton* cancelButton() const;
 
-    /// Every named field, button, label and group box of the pages, by name.
-    QVariantMap state() const;
-    /// The pins of the port figure, in order.
-    QVariantList figure() const;
+    /// Gives a field a value as a user does: brings it into sight, types or clicks, and leaves it.
+    /// @return why the field refused; empty: done. A field that refuses shows what it showed.
+    QString setField(const QString& name, const QVariant& to) const;
 
 private:
-    QPointer<IPSERDESIP::protocolGenDlg> m_dialog;
+    QPointer<protocolGenDlg> m_dialog;
     QPointer<QTabWidget> m_tabs;
 };
 
-} // namespace Ipgen::Session
+} // namespace IPSERDESIP
