@@ -14,17 +14,17 @@ namespace {
 
 constexpr int maxErrors = 20; // as many as a message box can show
 
-void addLine(QByteArray& text, const QString& name, const QString& value) {
-    text += name.toUtf8();
-    text += ' ';
-    text += value.toUtf8();
-    text += '\n';
+void addLine(QString& text, const QString& name, const QString& value) {
+    text += name;
+    text += QLatin1Char(' ');
+    text += value;
+    text += QLatin1Char('\n');
 }
 
 QByteArray resolvedText(const Script& script, const DEV::DeviceInfo& device,
                         const QVector<LaneClock>& clocks) {
-    constexpr int usualLine = 48; // bytes
-    QByteArray text;
+    constexpr int usualLine = 48; // characters
+    QString text; // one conversion at the end is much faster than one a line
     text.reserve(script.names().size() * usualLine);
     addLine(text, QStringLiteral("device"), device.model);
     addLine(text, QStringLiteral("class"), device.className);
@@ -49,7 +49,7 @@ QByteArray resolvedText(const Script& script, const DEV::DeviceInfo& device,
         add("made_gbps", milliText(rateMade(clock.dividers, reference), gbpsDecimals));
         add("error_ppm", errorPpmText(clock.dividers, reference, clock.rate));
     }
-    return text;
+    return text.toUtf8();
 }
 
 } // namespace
