@@ -35,8 +35,10 @@ class Completion(unittest.TestCase):
 
     @classmethod
     def environment(cls):
+        sanitizers = {name: value for name, value in os.environ.items()
+                      if name in ("ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")}
         return {"PATH": os.path.dirname(PROGRAM) + ":/usr/bin:/bin", "HOME": cls.folder,
-                "LC_ALL": "C.UTF-8"}
+                "LC_ALL": "C.UTF-8", **sanitizers}
 
     @classmethod
     def run_program(cls, *arguments):
