@@ -1,5 +1,32 @@
 # bash completion for ipgen
 # shellcheck shell=bash
+
+# Offers those of the names, one a line of the input, that go on from "$1" as it is typed. Names
+# are data: compgen -W would expand them.
+_ipgen_names()
+{
+    local typed name names=()
+    typed=$(printf %s "$1" | sed 's/\\\(.\)/\1/g')
+    mapfile -t names
+    COMPREPLY=()
+    for name in "${names[@]}"; do
+        if [[ $name == "$typed"* ]]; then
+            COMPREPLY+=("$(printf %q "$name")")
+        fi
+    done
+}
+
+# The names of the presets, out of JSON.
+_ipgen_presets()
+{
+    local name
+    ipgen presets --json 2>/dev/null | sed -n 's/^ *"name": "\(.*\)",$/\1/p' |
+        sed 's/\\\\/\\x5c/g; s/\\"/"/g' |
+        while IFS= read -r name; do
+            printf '%b\n' "$name"
+        done
+}
+
 _ipgen()
 {
     local cur prev words cword
@@ -22,17 +49,15 @@ _ipgen()
             return
             ;;
         --device)
-            mapfile -t COMPREPLY < <(compgen -W "$(ipgen devices 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur")
+            _ipgen_names "$cur" < <(ipgen devices 2>/dev/null | awk 'NR > 1 { print $1 }')
             return
             ;;
         --ip)
-            mapfile -t COMPREPLY < <(compgen -W "$(ipgen catalog 2>/dev/null | grep '^[^ ]')" -- "$cur")
+            _ipgen_names "$cur" < <(ipgen catalog 2>/dev/null | grep '^[^ ]')
             return
             ;;
         --preset)
-            local IFS=$'\n'
-            mapfile -t COMPREPLY < <(compgen -W "$(ipgen presets --json 2>/dev/null | sed -n 's/^ *"name": "\(.*\)",$/\1/p')" -- "$cur")
-            COMPREPLY=("${COMPREPLY[@]// /\\ }")
+            _ipgen_names "$cur" < <(_ipgen_presets)
             return
             ;;
         --set | --jobs)
@@ -88,7 +113,7 @@ _ipgen()
     if [[ -z $project ]]; then
         _filedir -d
     elif [[ $command != new && $command != gui ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "$(ipgen list "$project" 2>/dev/null | awk 'NR > 1 { print $1 }')" -- "$cur")
+        _ipgen_names "$cur" < <(ipgen list "$project" 2>/dev/null | awk 'NR > 1 { print $1 }')
     fi
 } &&
     complete -F _ipgen ipgen

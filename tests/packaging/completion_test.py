@@ -1,4 +1,5 @@
 """What the completion answers, with the program's own answers behind it."""
+import json
 import os
 import shutil
 import subprocess
@@ -23,6 +24,9 @@ printf '%s\\n' "${COMPREPLY[@]}"
 """
 
 
+OWN_PRESETS = ("x$(touch pwned)", "Bob's link", 'Two "quoted" back\\slash', "K\u00f6ln")
+
+
 class Completion(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -32,6 +36,12 @@ class Completion(unittest.TestCase):
         for name in ("link0", "link1", "other"):
             lane = {"link0": "q0_l0", "link1": "q0_l1", "other": "q0_l2"}[name]
             cls.run_program("create", "board", name, "--set", "tab1/%s=true" % lane)
+        own = os.path.join(cls.folder, ".local", "share", "ipgen", "presets", "customized")
+        os.makedirs(own)
+        for number, name in enumerate(OWN_PRESETS):
+            with open(os.path.join(own, "%d.json" % number), "w", encoding="utf-8") as file:
+                json.dump({"format": 1, "name": name, "summary": "", "devices": ["*"],
+                           "steps": [{"set": "tab1/q0_l0", "to": True}]}, file)
 
     @classmethod
     def environment(cls):
@@ -51,7 +61,7 @@ class Completion(unittest.TestCase):
                               cwd=self.folder, env=self.environment(), check=False,
                               stdout=subprocess.PIPE, stderr=subprocess.PIPE, encoding="utf-8")
         self.assertEqual(done.stderr, "")
-        return done.stdout.split()
+        return [line for line in done.stdout.split("\n") if line]
 
     def test_commands_and_options(self):
         self.assertEqual(self.answers("ge"), ["generate"])
@@ -63,8 +73,18 @@ class Completion(unittest.TestCase):
         self.assertEqual(self.answers("create", "board", "x", "--ip", ""), ["customized"])
 
     def test_presets_by_name(self):
-        self.assertEqual(self.answers("create", "board", "x", "--preset", "Vid"),
-                         ["Video,\\", "2.97G\\", "raw"])
+        def presets(typed):
+            return self.answers("create", "board", "x", "--preset", typed)
+        self.assertEqual(presets("Vid"), [r"Video\,\ 2.97G\ raw"])
+        self.assertEqual(presets(r"Video,\ 2"), [r"Video\,\ 2.97G\ raw"])
+        self.assertEqual(presets("Bob"), [r"Bob\'s\ link"])
+        self.assertEqual(presets("Two"), [r'Two\ \"quoted\"\ back\\slash'])
+        self.assertEqual(presets("K"), ["K\u00f6ln"])
+
+    def test_a_name_is_not_run(self):
+        self.assertEqual(self.answers("create", "board", "x", "--preset", "x"),
+                         [r"x\$\(touch\ pwned\)"])
+        self.assertFalse(os.path.exists(os.path.join(self.folder, "pwned")))
 
     def test_a_project_and_its_instances(self):
         self.assertEqual(self.answers("generate", ""), ["FILES"])
