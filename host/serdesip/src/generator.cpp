@@ -24,7 +24,7 @@ void addLine(QString& text, const QString& name, const QString& value) {
 QByteArray resolvedText(const Script& script, const DEV::DeviceInfo& device,
                         const QVector<LaneClock>& clocks) {
     constexpr int usualLine = 48; // characters
-    QString text; // one conversion at the end is much faster than one a line
+    QString text;                 // one conversion at the end is much faster than one a line
     text.reserve(script.names().size() * usualLine);
     addLine(text, QStringLiteral("device"), device.model);
     addLine(text, QStringLiteral("class"), device.className);

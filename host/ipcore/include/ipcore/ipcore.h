@@ -35,15 +35,16 @@ HOST_IPCORE_EXPORT QString outputRoot();
 /// place outside outputRoot(). Empty: it does not.
 HOST_IPCORE_EXPORT QString outputFlaw(const QString& path);
 
-/// Makes a folder and those above it, unless outputFlaw() speaks against it. A failure is reported to the user under the IP's name.
+/// Makes a folder and those above it, unless outputFlaw() speaks against it. A failure is reported
+/// to the user under the IP's name.
 HOST_IPCORE_EXPORT bool makeDirs(const QString& folder, const QString& ipName);
 
 /// Replaces a text file by these lines (UTF-8, each ended by one line feed), whole or not at
 /// all; a file that holds these bytes already is not touched. A failure is reported to the user.
 /// @param parent  the window that a message may have as parent
 /// @param header  put in front of the lines as it stands
-HOST_IPCORE_EXPORT bool generateFile(const QString& path, const QStringList& lines,
-                                     QWidget* parent, const QString& header);
+HOST_IPCORE_EXPORT bool generateFile(const QString& path, const QStringList& lines, QWidget* parent,
+                                     const QString& header);
 
 /// What makeDirs() and generateFile() have put or found in place, in the order of the calls.
 struct OutputLog {

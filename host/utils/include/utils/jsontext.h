@@ -34,7 +34,8 @@ constexpr int jsonDepthLimit = 100;
 /// wider than 64 bits, more levels than jsonDepthLimit. Then the result is false and *error set.
 HOST_UTILS_EXPORT bool parseJson(const QByteArray& text, QVariant* value, JsonError* error);
 
-/// Where a part stands, as the place of an error: for a flaw that the reader of a parsed text finds.
+/// Where a part stands, as the place of an error: for a flaw that the reader of a parsed text
+/// finds.
 /// @param text  one that parseJson() takes
 /// @param path  the keys from the outermost object in, a list's entries by their number from 0;
 ///              without such a part the error is null
