@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -46,7 +47,36 @@ QString read(const QWidget& field) {
     if (const auto* spin = qobject_cast<const QSpinBox*>(&field)) {
         return QString::number(spin->value());
     }
+    if (const auto* spin = qobject_cast<const QDoubleSpinBox*>(&field)) {
+        return QVariant(spin->value()).toString();
+    }
+    if (const auto* box = qobject_cast<const QGroupBox*>(&field)) {
+        return box->isCheckable() ? QLatin1String(box->isChecked() ? kChecked : kUnchecked)
+                                  : QString();
+    }
     return {};
+}
+
+bool shows(const QWidget& field, const QVariant& value) {
+    const QString shown = read(field);
+    const QString wanted = value.toString(); // of a boolean as read() says
+    if (shown == wanted) {
+        return true;
+    }
+    const auto* edit = qobject_cast<const QLineEdit*>(&field);
+    if (edit != nullptr && !edit->inputMask().isEmpty()) {
+        QLineEdit same; // what the mask makes of the value
+        same.setInputMask(edit->inputMask());
+        same.setText(wanted);
+        return same.displayText() == shown && shown.startsWith(wanted, Qt::CaseInsensitive);
+    }
+    if (edit == nullptr && qobject_cast<const QAbstractSpinBox*>(&field) == nullptr) {
+        return false;
+    }
+    bool isNumber = false;
+    bool showsNumber = false;
+    const double number = wanted.toDouble(&isNumber);
+    return shown.toDouble(&showsNumber) == number && isNumber && showsNumber;
 }
 
 void write(QWidget& field, const QString& value) {
@@ -61,6 +91,10 @@ void write(QWidget& field, const QString& value) {
         box->setChecked(value == QLatin1String(kChecked));
     } else if (auto* spin = qobject_cast<QSpinBox*>(&field)) {
         spin->setValue(value.toInt());
+    } else if (auto* number = qobject_cast<QDoubleSpinBox*>(&field)) {
+        number->setValue(value.toDouble());
+    } else if (auto* group = qobject_cast<QGroupBox*>(&field)) {
+        group->setChecked(value == QLatin1String(kChecked));
     }
 }
 
@@ -71,6 +105,8 @@ void tellEdited(QWidget& field) {
         Q_EMIT combo->activated(combo->currentIndex());
     } else if (auto* box = qobject_cast<QCheckBox*>(&field)) {
         Q_EMIT box->clicked(box->isChecked());
+    } else if (auto* group = qobject_cast<QGroupBox*>(&field)) {
+        Q_EMIT group->clicked(group->isChecked());
     }
 }
 
@@ -80,6 +116,13 @@ QVariant typedValue(const QWidget& field) {
     }
     if (const auto* spin = qobject_cast<const QSpinBox*>(&field)) {
         return spin->value();
+    }
+    if (const auto* spin = qobject_cast<const QDoubleSpinBox*>(&field)) {
+        return spin->value();
+    }
+    const auto* group = qobject_cast<const QGroupBox*>(&field);
+    if (group != nullptr && group->isCheckable()) {
+        return group->isChecked();
     }
     return read(field);
 }

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace IPSERDESIP {
 
-/// A page's fields (line edits, combo boxes, check boxes, spin boxes) read and set alike, as
-/// texts: what a user sees in them.
+/// A page's fields (all that setField() can set) read and set alike, as texts: what a user sees in
+/// them.
 namespace fieldvalue {
 
 /// The fields below a widget that a user can edit, in creation order; those without an object
@@ -17,6 +17,9 @@ namespace fieldvalue {
 QList<QWidget*> fieldsOf(const QWidget& root);
 
 QString read(const QWidget& field);
+/// Whether the field shows the value, maybe spelt in the field's own way: an input mask's letter
+/// case and filling, a number's digits.
+bool shows(const QWidget& field, const QVariant& value);
 /// Sets the field as a user would, so that the rules run that listen to it.
 void write(QWidget& field, const QString& value);
 /// Sends what the field sends besides when it is a user who has set it.

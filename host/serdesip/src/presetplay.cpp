@@ -8,18 +8,17 @@ namespace IPSERDESIP {
 
 namespace {
 
-/// The value as the field would show it.
-QString shownAs(const QVariant& value) {
-    return value.toString(); // of a boolean "true" or "false", as fieldvalue::read() says
-}
-
 QString shown(const DialogView& view, const QString& object) {
     const DialogView::Place place = view.find(object);
     return place.widget == nullptr ? QString() : fieldvalue::read(*place.widget);
 }
 
-bool shows(const DialogView& view, const PresetStep& step) {
-    return view.find(step.object).widget != nullptr && shown(view, step.object) == shownAs(step.to);
+/// To the letter, or in the field's own spelling too.
+bool shows(const DialogView& view, const PresetStep& step, bool toTheLetter = false) {
+    const DialogView::Place place = view.find(step.object);
+    return place.widget != nullptr &&
+           (toTheLetter ? fieldvalue::read(*place.widget) == step.to.toString()
+                        : fieldvalue::shows(*place.widget, step.to));
 }
 
 } // namespace
@@ -38,7 +37,8 @@ QList<PresetRefusal> playPreset(const DialogView& view, const QList<PresetStep>&
         for (int i = 0; i < steps.size() && view.dialog() != nullptr; ++i) {
             const PresetStep& step = steps.at(i);
             const bool counts = last.value(step.object) == i;
-            if (shows(view, step)) {
+            // A field keeps the spelling that is typed, as far as it can.
+            if (shows(view, step, pass == 0)) {
                 why[i].clear();
             } else if (pass == 0 || counts) {
                 why[i] = view.setField(step.object, step.to);

@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSpinBox>
@@ -135,6 +136,9 @@ private Q_SLOTS:
     void severalEditsInOneStep();
     void rehearsalLeavesNoTrace();
     void maskedValuesKeepZeros();
+    void everyKindOfField();
+    void spelling_data();
+    void spelling();
 };
 
 void FieldKeeperTest::fieldsAndValues() {
@@ -349,6 +353,63 @@ void FieldKeeperTest::maskedValuesKeepZeros() {
     QCOMPARE(fieldvalue::read(*page.mask), QStringLiteral("1010"));
     page.keeper.undo();
     QCOMPARE(fieldvalue::read(*page.mask), QStringLiteral("0101"));
+}
+
+/// What setField() can set is read and written alike.
+void FieldKeeperTest::everyKindOfField() {
+    QDoubleSpinBox number;
+    fieldvalue::write(number, QStringLiteral("2.5"));
+    QCOMPARE(fieldvalue::read(number), QStringLiteral("2.5"));
+    QCOMPARE(fieldvalue::typedValue(number), QVariant(2.5));
+    QGroupBox group;
+    QCOMPARE(fieldvalue::read(group), QString());
+    group.setCheckable(true);
+    fieldvalue::write(group, QStringLiteral("false"));
+    QCOMPARE(fieldvalue::read(group), QStringLiteral("false"));
+    QCOMPARE(fieldvalue::typedValue(group), QVariant(false));
+}
+
+void FieldKeeperTest::spelling_data() {
+    QTest::addColumn<QString>("mask");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("shows");
+    QTest::newRow("the same") << ""
+                              << "NA" << QVariant("NA") << true;
+    QTest::newRow("another case") << ""
+                                  << "NA" << QVariant("na") << false;
+    QTest::newRow("a number's digits") << ""
+                                       << "2.5" << QVariant("2.50") << true;
+    QTest::newRow("a number") << ""
+                              << "2.5" << QVariant(2.5) << true;
+    QTest::newRow("another number") << ""
+                                    << "2.5" << QVariant("2.6") << false;
+    QTest::newRow("no number") << ""
+                               << "0" << QVariant("x") << false;
+    QTest::newRow("nothing") << ""
+                             << "0" << QVariant("") << false;
+    QTest::newRow("the mask's case") << ">HH;0"
+                                     << "BC" << QVariant("bc") << true;
+    QTest::newRow("the mask's blanks") << ">HH;0"
+                                       << "10" << QVariant("1") << true;
+    QTest::newRow("masked, another") << ">HH;0"
+                                     << "BC" << QVariant("bd") << false;
+    QTest::newRow("masked, no such letters") << ">HH;0"
+                                             << "00" << QVariant("xy") << false;
+    QTest::newRow("masked, equal as numbers") << ">HHH;0"
+                                              << "0E1" << QVariant("0E2") << false;
+}
+
+void FieldKeeperTest::spelling() {
+    QFETCH(QString, mask);
+    QFETCH(QString, shown);
+    QFETCH(QVariant, value);
+    QFETCH(bool, shows);
+    QLineEdit field;
+    field.setInputMask(mask);
+    field.setText(shown);
+    QCOMPARE(field.displayText(), shown);
+    QCOMPARE(fieldvalue::shows(field, value), shows);
 }
 
 QTEST_MAIN(FieldKeeperTest)

@@ -64,6 +64,7 @@ private Q_SLOTS:
     void beforeAScript();
     void ownPresets();
     void refusedField();
+    void fieldsOwnSpelling();
     void damagedFiles();
     void unknown();
 
@@ -231,6 +232,38 @@ void PresetsCommandTest::refusedField() {
         QByteArray("ipgen: t: step 1 (preset F): tab1/comboLane: it has no item \"Q7\"; it "
                    "has \"Q0 Lane0\", \"Q0 Lane1\"; tab1/gone: tab 1 has no object \"gone\"\n"));
     QCOMPARE(contentOf(folder + "/project.json"), before);
+}
+
+/// A field that spells what is typed in its own way has taken it; one that makes another value of
+/// it has not.
+void PresetsCommandTest::fieldsOwnSpelling() {
+    const QString folder = project(QStringLiteral("RZ7X-60B"));
+    const QString file = m_dir->filePath(QStringLiteral("p.json"));
+    const QByteArray bonded =
+        "{\"format\": 1, \"name\": \"F\", \"summary\": \"\", \"devices\": [\"*\"], \"steps\": ["
+        "{\"set\": \"tab1/q0_l0\", \"to\": true}, {\"set\": \"tab1/q0_l1\", \"to\": true},"
+        "{\"set\": \"tab3/comboBoxRXChannelBoding\", \"to\": \"One Word\"},"
+        "{\"set\": \"tab3/lineEditPattern0\", \"to\": \"bc\"}";
+    writeFile(file, bonded + "]}");
+    const ProgramRun made = run({"create", folder, "a", "--ip", "customized", "--preset", file,
+                                 "--script", "-", "--report", "-"},
+                                "[{\"state\": \"s\"}, {\"cancel\": true}]");
+    QCOMPARE(made.err, QByteArray());
+    QCOMPARE(made.status, 0);
+    const QVariantMap state = jsonOf(made.out).toMap().value("states").toMap().value("s").toMap();
+    QCOMPARE(shown(state.value("tab3/lineEditPattern0").toMap()), QStringLiteral("BC"));
+
+    writeFile(file, bonded + ", {\"set\": \"tab1/TXLineRate\", \"to\": \"1.250\"}]}");
+    const ProgramRun spelt = run({"create", folder, "a", "--ip", "customized", "--preset", file,
+                                  "--script", "-", "--report", "-"},
+                                 "[{\"state\": \"s\"}, {\"cancel\": true}]");
+    const QVariantMap rates = jsonOf(spelt.out).toMap().value("states").toMap().value("s").toMap();
+    QCOMPARE(shown(rates.value("tab1/TXLineRate").toMap()), QStringLiteral("1.250"));
+
+    writeFile(file, bonded + ", {\"set\": \"tab1/TXLineRate\", \"to\": \"99\"}]}");
+    const ProgramRun refused = run({"create", folder, "b", "--ip", "customized", "--preset", file});
+    QCOMPARE(refused.status, 1);
+    QVERIFY2(refused.err.contains("tab1/TXLineRate: a rule makes it"), refused.err);
 }
 
 void PresetsCommandTest::damagedFiles() {
