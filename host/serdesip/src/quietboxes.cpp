@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -17,22 +18,28 @@ bool QuietBoxes::eventFilter(QObject* object, QEvent* event) {
     if (box == nullptr) {
         return false;
     }
-    if (event->type() == QEvent::Polish) {
-        box->setAttribute(Qt::WA_DontShowOnScreen); // polishing comes before showing
-    } else if (event->type() == QEvent::Show) {
+    // Polishing comes before the first showing; a later one has no polishing.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::Show) {
+        box->setAttribute(Qt::WA_DontShowOnScreen);
+    }
+    if (event->type() == QEvent::Show) {
         const QString title = box->windowTitle();
         m_words.append(title == box->text() || title.isEmpty()
                            ? box->text()
                            : title + QLatin1String(": ") + box->text());
         QTimer::singleShot(0, box, [box] {
+            const QPointer<QMessageBox> alive(box);
             // Without a default button, as the window's close button does it.
             if (box->defaultButton() != nullptr) {
                 box->defaultButton()->click();
             } else {
                 box->close();
             }
-            if (box->isVisible()) {
+            if (alive && box->isVisible()) {
                 box->done(QMessageBox::Cancel);
+            }
+            if (alive) {
+                box->setAttribute(Qt::WA_DontShowOnScreen, false); // it may be shown again
             }
         });
     }
