@@ -733,6 +733,10 @@
         <source>the file&apos;s name ends in .pdf, .svg or .png</source>
         <translation>der Dateiname endet auf .pdf, .svg oder .png</translation>
     </message>
+    <message>
+        <source>the picture cannot be made</source>
+        <translation>das Bild lässt sich nicht erstellen</translation>
+    </message>
 </context>
 <context>
     <name>StateTexts</name>

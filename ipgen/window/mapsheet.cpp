@@ -178,6 +178,9 @@ QByteArray asPng(const Layout& layout) {
     constexpr int scale = 2; // sharp on paper too
     const QRectF area = layout.area();
     QImage image(area.size().toSize() * scale, QImage::Format_RGB32);
+    if (image.isNull()) {
+        return {}; // too large
+    }
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(scale, scale);
@@ -187,8 +190,7 @@ QByteArray asPng(const Layout& layout) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
+    return image.save(&buffer, "PNG") ? bytes : QByteArray();
 }
 
 } // namespace
@@ -207,6 +209,9 @@ Ipgen::Status writeMapSheet(const MapSheet& sheet, const QString& path) {
         return {Ipgen::Exit::Usage, path,
                 SheetTexts::tr("the file's name ends in .pdf, .svg or "
                                ".png")};
+    }
+    if (bytes.isEmpty()) {
+        return {Ipgen::Exit::BadOutput, path, SheetTexts::tr("the picture cannot be made")};
     }
     const Utils::FileResult written = Utils::replaceFile(path, bytes);
     return written.ok ? Ipgen::Status()

@@ -1,6 +1,9 @@
 #include "ipgen/window/mapdata.h"
+#include "ipgen/window/mapsheet.h"
 
+#include <QFileInfo>
 #include <QSet>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Window;
@@ -15,6 +18,7 @@ private Q_SLOTS:
     void sharedAlikeIsNoConflict();
     void conflictsAreSaid();
     void marksDiffer();
+    void aPictureTooLargeIsAnError();
 };
 
 namespace {
@@ -127,6 +131,23 @@ void MapDataTest::marksDiffer() {
     QCOMPARE(marks.value(QStringLiteral("i25")).letter, QStringLiteral("Z"));
     QCOMPARE(marks.value(QStringLiteral("i26")).letter, QStringLiteral("AA"));
     QCOMPARE(marks.value(QStringLiteral("i52")).letter, QStringLiteral("BA"));
+}
+
+/// More conflicts than a picture has room for: its pixels would take more than two gigabytes.
+void MapDataTest::aPictureTooLargeIsAnError() {
+    const QTemporaryDir dir;
+    MapSheet sheet;
+    MapCell one = cell(mapCells(smallDevice(), {}), "Q0 Lane0");
+    one.owners = QStringList{QStringLiteral("a"), QStringLiteral("b")};
+    one.conflict = QStringLiteral("taken twice");
+    sheet.cells.fill(one, 1);
+    const QString good = dir.filePath(QStringLiteral("good.png"));
+    QVERIFY(writeMapSheet(sheet, good).ok());
+    QVERIFY(QFileInfo(good).size() > 0);
+    sheet.cells.fill(one, 100000);
+    const QString bad = dir.filePath(QStringLiteral("bad.png"));
+    QVERIFY(!writeMapSheet(sheet, bad).ok());
+    QVERIFY(!QFileInfo::exists(bad));
 }
 
 QTEST_MAIN(MapDataTest)
