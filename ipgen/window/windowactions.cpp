@@ -159,7 +159,9 @@ void MainWindow::makeMenus() {
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, theme_ = value] {
             m_settings.setTheme(theme_);
-            applyTheme(theme_);
+            if (theme_ != Settings::Theme::System) {
+                applyTheme(theme_); // the desktop's own colours are known at the start alone
+            }
         });
     }
     m_instances->setMenuActions(instance->actions());

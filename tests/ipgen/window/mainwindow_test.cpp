@@ -4,6 +4,7 @@
 #include "ipgen/window/mainwindow.h"
 #include "ipgen/window/noticebar.h"
 #include "ipgen/window/settings.h"
+#include "ipgen/window/theme.h"
 
 #include <serdesip/protocolgendlg.h>
 
@@ -25,6 +26,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QTabWidget>
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void twoOfOneFolderAreNotGenerated();
     void mapForPaper_data();
     void mapForPaper();
+    void systemThemeWaits();
     void secondWindowIsTold();
     void changesFromOutsideShowUp();
     void damagedProjectIsReported();
@@ -508,6 +511,27 @@ void MainWindowTest::mapForPaper() {
         painter.end();
         QCOMPARE(image.pixelColor(image.width() - 2, image.height() - 2), QColor(Qt::white));
     }
+}
+
+/// The desktop's colours come at the next start: until then everything stays as it is.
+void MainWindowTest::systemThemeWaits() {
+    const QPalette former = QApplication::palette();
+    QHash<QString, QAction*> themes;
+    const QList<QAction*> actions = m_window->findChildren<QAction*>();
+    for (QAction* action : actions) {
+        themes.insert(action->shortcut().toString(), action);
+    }
+    QAction* dark = themes.value(QStringLiteral("Ctrl+Alt+D"));
+    QAction* system = themes.value(QStringLiteral("Ctrl+Alt+S"));
+    QVERIFY(dark != nullptr && system != nullptr);
+    dark->trigger();
+    QVERIFY(isDark(QApplication::palette()));
+    const QStyle* style = QApplication::style();
+    system->trigger();
+    QVERIFY(Settings().theme() == Settings::Theme::System);
+    QVERIFY(QApplication::style() == style);
+    QVERIFY(isDark(QApplication::palette()));
+    QApplication::setPalette(former);
 }
 
 void MainWindowTest::secondWindowIsTold() {
