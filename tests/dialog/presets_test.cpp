@@ -14,8 +14,11 @@
 #include <QAction>
 #include <QDir>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -130,6 +133,29 @@ QStringList offered(const Dialog& dialog) {
     return names;
 }
 
+/// Calls `act`, which opens the modal dialog of that name, and has it looked at and then closed.
+/// @return whether it came up
+bool withDialog(const char* name, const std::function<void()>& act,
+                const std::function<void(QDialog& open)>& look) {
+    bool came = false;
+    QTimer looker;
+    QObject::connect(&looker, &QTimer::timeout, [&] {
+        const QPointer<QDialog> open = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!open || open->objectName() != QLatin1String(name)) {
+            return;
+        }
+        came = true;
+        look(*open);
+        if (open && open->isVisible()) {
+            open->reject();
+        }
+    });
+    looker.start(5);
+    act();
+    QCoreApplication::processEvents();
+    return came;
+}
+
 /// Chooses the preset in the menu and looks at the preview, then presses Apply or Cancel.
 Preview choose(const Dialog& dialog, const QString& name, bool applies) {
     Preview preview;
@@ -139,14 +165,8 @@ Preview choose(const Dialog& dialog, const QString& name, bool applies) {
     if (action == nullptr) {
         return preview;
     }
-    QTimer looker;
-    QObject::connect(&looker, &QTimer::timeout, [&] {
-        auto* open = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (open == nullptr || open->objectName() != QLatin1String("presetPreview")) {
-            return;
-        }
-        preview.shown = true;
-        const auto* tree = open->findChild<QTreeWidget*>(QStringLiteral("changes"));
+    const auto look = [&](QDialog& open) {
+        const auto* tree = open.findChild<QTreeWidget*>(QStringLiteral("changes"));
         for (QTreeWidgetItemIterator it(const_cast<QTreeWidget*>(tree)); *it != nullptr; ++it) {
             if ((*it)->parent() != nullptr) {
                 preview.captions.append((*it)->text(0));
@@ -154,19 +174,16 @@ Preview choose(const Dialog& dialog, const QString& name, bool applies) {
             }
         }
         preview.rows.sort();
-        if (const auto* text = open->findChild<QPlainTextEdit*>(QStringLiteral("refusals"))) {
+        if (const auto* text = open.findChild<QPlainTextEdit*>(QStringLiteral("refusals"))) {
             preview.refusals = text->toPlainText();
         }
-        auto* apply = open->findChild<QPushButton*>(QStringLiteral("applyPreset"));
+        auto* apply = open.findChild<QPushButton*>(QStringLiteral("applyPreset"));
         if (applies && apply->isEnabled()) {
             apply->click();
-        } else {
-            open->reject();
         }
-    });
-    looker.start(5);
-    action->trigger();
-    QCoreApplication::processEvents();
+    };
+    preview.shown = withDialog(
+        "presetPreview", [&] { action->trigger(); }, look);
     return preview;
 }
 
@@ -188,6 +205,7 @@ private Q_SLOTS:
     void refusalsAreTold();
     void twinCaptionsNameTheirGroup();
     void savedAndAppliedAgain();
+    void othersPresetsAreSeen();
 
 private:
     QTemporaryDir m_own;
@@ -390,13 +408,14 @@ void PresetsTest::savedAndAppliedAgain() {
         dialog.choose(QStringLiteral("ffeModeCombox"), QStringLiteral("Manual"));
         dialog.setNumber(QStringLiteral("c1SpinBox"), 5);
         saved = valuesOf(dialog);
-        QTimer::singleShot(20, [] {
-            auto* box = QApplication::activeModalWidget();
-            box->findChild<QLineEdit*>(QStringLiteral("presetName"))->setText("My link");
-            QCOMPARE(box->findChild<QPlainTextEdit*>(QStringLiteral("lost")), nullptr);
-            qobject_cast<QDialog*>(box)->accept();
-        });
-        dialog->findChild<QAction*>(QStringLiteral("savePreset"))->trigger();
+        const auto save = [](QDialog& open) {
+            open.findChild<QLineEdit*>(QStringLiteral("presetName"))->setText("My link");
+            QCOMPARE(open.findChild<QPlainTextEdit*>(QStringLiteral("lost")), nullptr);
+            open.accept();
+        };
+        QVERIFY(withDialog(
+            "savePreset",
+            [&] { dialog->findChild<QAction*>(QStringLiteral("savePreset"))->trigger(); }, save));
         QCOMPARE(valuesOf(dialog), saved);
     });
     QVERIFY(QFile::exists(m_own.filePath(QStringLiteral("My link.json"))));
@@ -411,6 +430,39 @@ void PresetsTest::savedAndAppliedAgain() {
     QCOMPARE(names.value(0), QStringLiteral("My link"));
     QCOMPARE(preview.refusals, QString());
     QCOMPARE(again, saved);
+}
+
+/// What another program has saved since the dialog came up is managed, and not overwritten unasked.
+void PresetsTest::othersPresetsAreSeen() {
+    Bench bench(QStringLiteral("RZ7X-60B"));
+    QStringList managed;
+    bench.create([&](Dialog& dialog) {
+        Preset other = builtInPresets().value(0);
+        other.name = QStringLiteral("Theirs");
+        QCOMPARE(PresetStore(ipPresets, m_own.path()).save(other), QString());
+        QVERIFY(withDialog(
+            "managePresets",
+            [&] { dialog->findChild<QAction*>(QStringLiteral("managePresets"))->trigger(); },
+            [&](QDialog& open) {
+                const auto* list = open.findChild<QListWidget*>(QStringLiteral("ownPresets"));
+                for (int i = 0; i < list->count(); ++i) {
+                    managed.append(list->item(i)->text());
+                }
+            }));
+        other.name = QStringLiteral("Theirs too");
+        QCOMPARE(PresetStore(ipPresets, m_own.path()).save(other), QString());
+        QVERIFY(withDialog(
+            "savePreset",
+            [&] { dialog->findChild<QAction*>(QStringLiteral("savePreset"))->trigger(); },
+            [&](QDialog& open) {
+                open.findChild<QLineEdit*>(QStringLiteral("presetName"))->setText("Theirs too");
+                open.accept();
+            }));
+    });
+    QVERIFY2(managed.contains(QStringLiteral("Theirs")), qPrintable(managed.join(", ")));
+    const QString asked = bench.takeMessages().join(QLatin1Char('\n'));
+    QVERIFY2(asked.contains(QStringLiteral("There is a preset \"Theirs too\" already.")),
+             qPrintable(asked));
 }
 
 QTEST_MAIN(PresetsTest)

@@ -256,6 +256,7 @@ QList<PresetStep> PresetPanel::editableFields() const {
 }
 
 void PresetPanel::save() {
+    m_store.load(); // others save presets meanwhile
     m_frame.tabBar->setFocus(Qt::OtherFocusReason);
     Preset preset;
     preset.own = true;
@@ -291,6 +292,7 @@ void PresetPanel::save() {
 }
 
 void PresetPanel::manage() {
+    m_store.load();
     ManagePresetsDialog(m_store, &m_dialog).exec();
 }
 
