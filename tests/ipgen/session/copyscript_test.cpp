@@ -291,18 +291,30 @@ void CopyScriptTest::presetsAreRecorded() {
     const auto choose = [&](QWidget* dialog, const QString& name, bool takes) {
         auto* menu = dialog->findChild<QMenu*>(QStringLiteral("presetMenu"));
         Q_EMIT menu->aboutToShow();
-        QTimer::singleShot(20, [&previews, takes] {
+        auto* action = menu->findChild<QAction*>(QLatin1String("preset:") + name);
+        QVERIFY2(action != nullptr, qPrintable(name));
+        QTimer looker;
+        QObject::connect(&looker, &QTimer::timeout, [&] {
             auto* preview = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            previews += preview->objectName() == QLatin1String("presetPreview") ? 1 : 0;
-            preview->done(takes ? QDialog::Accepted : QDialog::Rejected);
+            if (preview != nullptr && preview->objectName() == QLatin1String("presetPreview")) {
+                ++previews;
+                preview->done(takes ? QDialog::Accepted : QDialog::Rejected);
+            }
         });
-        menu->findChild<QAction*>(QLatin1String("preset:") + name)->trigger();
+        looker.start(5);
+        action->trigger();
     };
     const auto press = [](QWidget* dialog, const char* name) {
         dialog->findChild<QToolButton*>(QString::fromLatin1(name))->defaultAction()->trigger();
     };
-    QTimer::singleShot(50, [&] {
+    QTimer edits;
+    QObject::connect(&edits, &QTimer::timeout, [&] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr ||
+            dialog->findChild<QMenu*>(QStringLiteral("presetMenu")) == nullptr) {
+            return;
+        }
+        edits.stop();
         choose(dialog, QStringLiteral("Backplane, 10.3125G 64B/66B"), false);
         choose(dialog, QStringLiteral("Four bonded lanes, 3.125G 8B/10B"), true);
         press(dialog, "undo");
@@ -310,6 +322,7 @@ void CopyScriptTest::presetsAreRecorded() {
         press(dialog, "copyScript");
         dialog->reject();
     });
+    edits.start(5);
     entry->protocol->create(QStringLiteral("link0"), IPSERDESIP::serdes::instance()->device());
     QCOMPARE(previews, 3);
     const QByteArray script = QGuiApplication::clipboard()->text().toUtf8();
