@@ -66,6 +66,9 @@ void customizeddlg::onEqualizationModeChanged() {
 }
 
 void customizeddlg::resetFlagforBias() {
+    if (isRehearsing()) {
+        return; // the fields come back to what they show now, and so what was agreed on holds
+    }
     m_biasFlag = BiasFlag::Unconfirmed;
 }
 

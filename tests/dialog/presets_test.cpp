@@ -206,6 +206,8 @@ private Q_SLOTS:
     void twinCaptionsNameTheirGroup();
     void savedAndAppliedAgain();
     void othersPresetsAreSeen();
+    void aCancelledTrialLeavesTheAnswer_data();
+    void aCancelledTrialLeavesTheAnswer();
 
 private:
     QTemporaryDir m_own;
@@ -463,6 +465,39 @@ void PresetsTest::othersPresetsAreSeen() {
     const QString asked = bench.takeMessages().join(QLatin1Char('\n'));
     QVERIFY2(asked.contains(QStringLiteral("There is a preset \"Theirs too\" already.")),
              qPrintable(asked));
+}
+
+void PresetsTest::aCancelledTrialLeavesTheAnswer_data() {
+    QTest::addColumn<bool>("saves");
+    QTest::newRow("saving, and not after all") << true;
+    QTest::newRow("looking at one") << false;
+}
+
+/// What was agreed on for the other lanes is no field, and holds as long as the fields do.
+void PresetsTest::aCancelledTrialLeavesTheAnswer() {
+    QFETCH(bool, saves);
+    Bench bench(QStringLiteral("RZ7X-60B"));
+    bench.answer(QStringLiteral("Yes"));
+    const ConfigMap config = bench.create([&](Dialog& dialog) {
+        dialog.check(QStringLiteral("q0_l0"), true);
+        dialog.setNumber(QStringLiteral("biasSpinBox"), 11);
+        dialog.pressOk();
+    });
+    QVERIFY(config.value(QStringLiteral("ifChangedAllOfBias")).toBool());
+    bench.takeMessages();
+    const ConfigMap again = bench.open(config, [&](Dialog& dialog) {
+        if (saves) {
+            QVERIFY(withDialog(
+                "savePreset",
+                [&] { dialog->findChild<QAction*>(QStringLiteral("savePreset"))->trigger(); },
+                [](QDialog& open) { open.reject(); }));
+        } else {
+            choose(dialog, QStringLiteral("Four bonded lanes, 3.125G 8B/10B"), false);
+        }
+        dialog.pressOk();
+    });
+    QCOMPARE(bench.takeMessages(), QStringList());
+    QCOMPARE(again, config);
 }
 
 QTEST_MAIN(PresetsTest)

@@ -323,9 +323,15 @@ bool protocolGenDlg::event(QEvent* event) {
         d->offerScript();
         break;
     case QEvent::WindowBlocked:
+        if (isRehearsing()) {
+            break; // what a rule says then is the preview's to tell
+        }
         d->lastMessage = messageOf(QApplication::activeModalWidget());
         break;
     case QEvent::WindowUnblocked:
+        if (isRehearsing()) {
+            break;
+        }
         // A message box has been closed, so a check may have failed: say why, for any protocol.
         d->frame.details->setPlainText(serdes::instance()->details().join(QLatin1Char('\n')));
         if (!d->lastMessage.isEmpty()) {
