@@ -201,11 +201,20 @@ void Recorder::watchField(QWidget* field) {
     } else if (auto* spin = qobject_cast<QSpinBox*>(field)) {
         connect(spin, QOverload<int>::of(&QSpinBox::valueChanged), this,
                 [this, spin] { spinChanged(spin); });
+        watchSpinText(spin);
     } else if (auto* real = qobject_cast<QDoubleSpinBox*>(field)) {
         connect(real, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 [this, real] { spinChanged(real); });
+        watchSpinText(real);
     } else if (auto* button = qobject_cast<QAbstractButton*>(field)) {
         watchButton(button);
+    }
+}
+
+/// The text is edited by typing, and by the frame's reset to the default.
+void Recorder::watchSpinText(QWidget* spin) {
+    if (const auto* text = spin->findChild<QLineEdit*>()) {
+        connect(text, &QLineEdit::textEdited, this, [this, spin] { wasEdited(spin); });
     }
 }
 

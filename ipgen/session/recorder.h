@@ -45,6 +45,7 @@ private:
     void watchBox(QMessageBox* box);
     void wasEdited(QWidget* field);
     void spinChanged(QWidget* spin);
+    void watchSpinText(QWidget* spin);
     void recordAnswer(const QString& button);
     void recordSet(const QWidget* field, const QVariant& to);
     void recordStep(const Step& step);

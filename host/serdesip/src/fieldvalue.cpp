@@ -107,6 +107,8 @@ void tellEdited(QWidget& field) {
         Q_EMIT box->clicked(box->isChecked());
     } else if (auto* group = qobject_cast<QGroupBox*>(&field)) {
         Q_EMIT group->clicked(group->isChecked());
+    } else if (auto* inner = field.findChild<QLineEdit*>()) { // a spin box's
+        Q_EMIT inner->textEdited(inner->text());
     }
 }
 

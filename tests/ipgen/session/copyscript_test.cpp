@@ -14,11 +14,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QDir>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QProcess>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -88,6 +91,7 @@ private Q_SLOTS:
     void opened();
     void namesAreWritten();
     void presetsAreRecorded();
+    void aResetIsRecorded();
     void foreignIp();
 
 private:
@@ -333,6 +337,48 @@ void CopyScriptTest::presetsAreRecorded() {
     QVERIFY2(made.code == 0, qPrintable(made.errors + QString::fromUtf8(script)));
     QVERIFY(!savedConfig(wanted).isEmpty());
     QCOMPARE(savedConfig(played), savedConfig(wanted));
+}
+
+/// A spin box that its mark has put back to the default.
+void CopyScriptTest::aResetIsRecorded() {
+    Project project;
+    const QString folder = newProject("copied", QStringLiteral("RZ7X-60B"));
+    QVERIFY(Project::load(folder, &project).ok());
+    QVERIFY(project.openInModel(catalogue()).ok());
+    const CatalogueEntry* entry = catalogue().find(QStringLiteral("customized"));
+    QVERIFY(entry != nullptr);
+    QGuiApplication::clipboard()->clear();
+    const Session::FrameLoan frame(*entry, project, QStringLiteral("link0"));
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, [&poll] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        auto* spin = dialog != nullptr ? dialog->findChild<QSpinBox*>(QStringLiteral("biasSpinBox"))
+                                       : nullptr;
+        if (spin == nullptr) {
+            return;
+        }
+        poll.stop();
+        spin->selectAll();
+        QTest::keyClicks(spin->findChild<QLineEdit*>(), QStringLiteral("3"));
+        QTest::mouseClick(dialog->findChild<QAbstractButton*>(QStringLiteral("q0_l0")),
+                          Qt::LeftButton); // the number is entered
+        QApplication::processEvents();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1));
+        QApplication::sendEvent(spin, &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (menu != nullptr) {
+            menu->findChild<QAction*>(QStringLiteral("resetField"))->trigger();
+            menu->close();
+        }
+        dialog->findChild<QToolButton*>(QStringLiteral("copyScript"))->defaultAction()->trigger();
+        dialog->reject();
+    });
+    poll.start(20);
+    entry->protocol->create(QStringLiteral("link0"), IPSERDESIP::serdes::instance()->device());
+    const QString script = QGuiApplication::clipboard()->text();
+    const QString field = QStringLiteral("{\"set\":\"tab5/biasSpinBox\",\"to\":%1}");
+    QVERIFY2(script.contains(field.arg(3)), qPrintable(script));
+    QVERIFY2(script.indexOf(field.arg(7)) > script.indexOf(field.arg(3)), qPrintable(script));
 }
 
 void CopyScriptTest::foreignIp() {
