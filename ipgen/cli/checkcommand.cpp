@@ -64,6 +64,10 @@ private:
     /// Why the instance does not pass; empty: it passes.
     static QString check(const Catalogue& catalogue, const Project& project, const QString& name,
                          Session::Report* report) {
+        const Status configured = project.checkConfigured(name);
+        if (!configured.ok()) {
+            return configured.why();
+        }
         const ProjectInstance instance = project.instance(name);
         const CatalogueEntry* entry = nullptr;
         const Status offered = catalogue.pick(instance.ip, &entry);

@@ -65,6 +65,13 @@ private:
             result.status = offered.ok() ? configured : Status(Exit::Refused, name, offered.text());
             return result;
         }
+        const QString other = sharesFolderWith(name);
+        if (!other.isEmpty()) {
+            context.tell(name,
+                         QStringLiteral("writes to the same folder as %1, and over its files; "
+                                        "give one of them another file name")
+                             .arg(oneLine(other)));
+        }
         GenerationRequest request;
         request.protocol = entry->protocol.get();
         request.device = IPSERDESIP::serdes::instance()->device();

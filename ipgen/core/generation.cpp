@@ -5,6 +5,7 @@
 #include <ipcore/ipcore.h>
 #include <serdesip/message.h>
 #include <serdesip/netlist.h>
+#include <serdesip/serdes.h>
 
 #include <QFileInfo>
 #include <QScopeGuard>
@@ -65,6 +66,17 @@ Status checkFileName(const QString& file) {
     }
     if (file != oneLine(file)) {
         return refused(QStringLiteral("the name has a control character"));
+    }
+    return {};
+}
+
+QString sharesFolderWith(const QString& instance) {
+    const auto messages = IPSERDESIP::serdes::instance()->messages();
+    const QString file = messages.value(instance).file;
+    for (auto it = messages.begin(); it != messages.end(); ++it) {
+        if (!file.isEmpty() && it.key() != instance && it->file == file) {
+            return it.key();
+        }
     }
     return {};
 }

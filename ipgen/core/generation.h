@@ -42,6 +42,10 @@ struct GenerationResult {
 /// one path component, ".", "..", absolute, or with control characters.
 Status checkFileName(const QString& file);
 
+/// The first other instance in the transceiver model that is configured with this one's file name,
+/// and so writes to the same folder; empty: none.
+QString sharesFolderWith(const QString& instance);
+
 /// Checks the configured file name, then runs the IP's generation. Never throws. For progress and
 /// cancelling of a netlist generation, have an IPSERDESIP::NetlistRun alive during the call.
 GenerationResult generate(const GenerationRequest& request);

@@ -352,7 +352,7 @@ Status Project::openInModel(const Catalogue& catalogue, QList<Status>* skipped) 
             }
             continue;
         }
-        if (it.value().toMap().contains(copiedFromKey)) {
+        if (!copiedFrom(name).isEmpty()) {
             continue; // holds nothing of its own yet
         }
         entry->protocol->setDevice(device);

@@ -57,7 +57,8 @@ Flaw flawOf(const QVariantMap& document) {
         }
         const QVariantMap instance = it.value().toMap();
         for (const Rule& rule : {Rule{QStringLiteral("ip"), QMetaType::QString, true},
-                                 Rule{QStringLiteral("config"), QMetaType::QVariantMap, true}}) {
+                                 Rule{QStringLiteral("config"), QMetaType::QVariantMap, true},
+                                 Rule{QStringLiteral("copiedFrom"), QMetaType::QString, false}}) {
             const QString reason = kindFlaw(instance, rule.key, rule.kind, rule.required);
             if (!reason.isEmpty()) {
                 QStringList key{instancesKey, it.key()};

@@ -236,6 +236,9 @@ private Q_SLOTS:
             "line 1, column 44: the instance \"a\" is no object");
         row("no IP", rest("\"instances\": {\"a\": {\"config\": {}}}"),
             "line 1, column 44: the instance \"a\": the key \"ip\" is missing");
+        row("a number for a copy's original",
+            rest("\"instances\": {\"a\": {\"ip\": \"t\", \"config\": {}, \"copiedFrom\": 5}}"),
+            "line 1, column 75: the instance \"a\": the key \"copiedFrom\" is no text");
         row("a list for the configuration",
             rest("\"instances\": {\"a\": {\"ip\": \"t\", \"config\": []}}"),
             "line 1, column 61: the instance \"a\": the key \"config\" is no object");
