@@ -41,8 +41,10 @@ public:
 private:
     void take(const QString& what, const QString& why) {
         m_lines.append(what + QStringLiteral(": ") + why);
-        if (QApplication::activeModalWidget() != nullptr && m_lines.size() == 1) {
+        if (QApplication::activeModalWidget() != nullptr && !m_posted) {
+            m_posted = true;
             QTimer::singleShot(0, &m_context, [this] {
+                m_posted = false;
                 const QStringList lines = std::exchange(m_lines, {});
                 QMessageBox::warning(QApplication::activeModalWidget(), Workbench::tr("Error"),
                                      lines.join(QLatin1Char('\n')));
@@ -51,7 +53,8 @@ private:
     }
 
     QStringList m_lines;
-    QObject m_context; ///< for calls to come
+    bool m_posted = false; ///< a box is on its way
+    QObject m_context;     ///< for calls to come
     Core::ViewManager::ErrorSink m_former;
 };
 
@@ -303,8 +306,11 @@ Status Workbench::runDialog(const QString& name,
         return {Exit::Fault, name,
                 tr("the IP threw an exception: %1").arg(QString::fromLocal8Bit(fault.what()))};
     }
-    if (config->isEmpty() && !errors.rest().isEmpty()) {
-        return {Exit::Refused, name, errors.rest()};
+    if (!errors.rest().isEmpty()) {
+        if (config->isEmpty()) {
+            return {Exit::Refused, name, errors.rest()};
+        }
+        QMessageBox::warning(Core::ViewManager::dialogParent(), tr("Error"), errors.rest());
     }
     return {};
 }
@@ -462,17 +468,13 @@ Status Workbench::mayGenerate(const QString& name) const {
     if (!configured.ok()) {
         return configured;
     }
-    const InstanceRow* mine = row(name);
-    for (const InstanceRow& other : m_rows) {
-        if (mine != nullptr && !mine->file.isEmpty() && other.name != name &&
-            other.file == mine->file) {
-            return {Exit::Refused, name,
-                    tr("%1 writes to the same folder, \"%2\"; nothing was written. Give one of "
-                       "them another file name.")
-                        .arg(other.name, mine->file)};
-        }
-    }
-    return {};
+    const QString other = Ipgen::sharesFolderWith(name);
+    return other.isEmpty()
+               ? Status()
+               : Status(Exit::Refused, name,
+                        tr("%1 writes to the same folder, \"%2\"; nothing was written. Give one "
+                           "of them another file name.")
+                            .arg(other, row(name) != nullptr ? row(name)->file : QString()));
 }
 
 Ipgen::GenerationResult Workbench::generateInstance(const QString& name, bool netlist) {
