@@ -110,7 +110,7 @@ private:
             if (!why.isEmpty()) {
                 context.tell(name(), why);
             }
-            // What cannot be written is the one kind of failure that libraries report by path.
+            // Libraries report what could not be written; the IP's own refusals come as boxes.
             const Exit exit = report.complaints.isEmpty() ? Exit::Refused : Exit::BadOutput;
             return why.isEmpty() ? Exit::Done : exit;
         }
@@ -119,6 +119,11 @@ private:
         const Status saved = project.changed() ? project.save() : Status();
         if (!saved.ok()) {
             return context.tell(saved);
+        }
+        if (m_options.hasSettings()) {
+            for (const QString& sentence : report.overridden) {
+                context.tell(name(), sentence);
+            }
         }
         if (!m_options.reportsToOutput()) {
             context.printLine(

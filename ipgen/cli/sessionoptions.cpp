@@ -10,6 +10,7 @@
 #include <utils/jsontext.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <optional>
 
@@ -58,7 +59,19 @@ Status SessionOptions::prepare() {
         return {Exit::Usage, m_show ? QStringLiteral("--show") : QStringLiteral("--report"),
                 QStringLiteral("needs --script, --set or --preset")};
     }
-    return isScripted() ? readScript() : Status();
+    const Status outputs = checkOutputs();
+    return outputs.ok() && isScripted() ? readScript() : outputs;
+}
+
+Status SessionOptions::checkOutputs() const {
+    for (const std::string& file : {m_record, m_report}) {
+        const QString path = fromArgument(file);
+        const QString folder = QFileInfo(path).absolutePath();
+        if (!file.empty() && file != "-" && !QFileInfo(folder).isDir()) {
+            return {Exit::BadOutput, path, QStringLiteral("there is no folder %1").arg(folder)};
+        }
+    }
+    return {};
 }
 
 Status SessionOptions::readScript() {

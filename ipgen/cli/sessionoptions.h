@@ -34,12 +34,16 @@ public:
     Status writeReport(Context& context, const Session::Report& report) const;
     /// Whether standard output is the report's.
     bool reportsToOutput() const { return m_report == "-"; }
+    /// Whether --set is used, whose order its users may not have in mind.
+    bool hasSettings() const { return !m_settings.empty(); }
 
 private:
     bool isScripted() const {
         return !m_settings.empty() || !m_scriptFile.empty() || !m_preset.empty();
     }
     Status readScript();
+    /// Whether what is to be written after the session has a folder to go to.
+    Status checkOutputs() const;
 
     std::string m_preset;
     std::vector<std::string> m_settings;

@@ -10,7 +10,8 @@ namespace {
 QString lastWords(const Session::Report& report) {
     QStringList words = report.complaints;
     if (report.messages.size() > report.saidBefore) {
-        words.append(report.messages.last().text);
+        words.append(
+            QString(report.messages.last().text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     }
     if (report.complaints.isEmpty()) {
         words += report.details;

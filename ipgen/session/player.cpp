@@ -123,6 +123,7 @@ void Player::perform(const Step& step) {
         m_report.module = m_view.dialog()->moduleName();
         break;
     case Step::Kind::Accept:
+        m_report.overridden = overriddenSettings();
         why = pressStandard(m_view.okButton(), "OK");
         break;
     case Step::Kind::Cancel:
@@ -235,6 +236,36 @@ void Player::watchTime() {
     QCoreApplication::exit(); // ends every event loop that is running
 }
 
+QStringList Player::overriddenSettings() const {
+    QMap<QString, QVariant> asked; // by field, the last counts
+    for (const Step& step : m_script.mid(0, m_current)) {
+        if (step.kind == Step::Kind::Set && !step.tries) {
+            asked.insert(step.target, step.to);
+        }
+    }
+    QStringList sentences;
+    const QVariantMap state = asked.isEmpty() ? QVariantMap() : snapshotOf(m_view);
+    for (auto it = asked.constBegin(); it != asked.constEnd(); ++it) {
+        const QVariantMap field = state.value(it.key()).toMap();
+        QVariant shown = field.value(QStringLiteral("text"));
+        for (const char* key : {"checked", "value"}) {
+            shown = field.value(QLatin1String(key), shown);
+        }
+        const QString wanted = it.value().toString();
+        bool numbers[2] = {};
+        const bool equal = shown.toString().compare(wanted, Qt::CaseInsensitive) == 0 ||
+                           (shown.toDouble(&numbers[0]) == wanted.toDouble(&numbers[1]) &&
+                            numbers[0] && numbers[1]);
+        if (!field.isEmpty() && !equal) {
+            sentences.append(
+                QStringLiteral("%1 was set to \"%2\", and a rule of the dialog has made "
+                               "it \"%3\"")
+                    .arg(it.key(), wanted, shown.toString()));
+        }
+    }
+    return sentences;
+}
+
 QStringList Player::complaintsSince(int errors) const {
     QStringList complaints;
     for (const ErrorCollector::Entry& entry : m_errors.entries().mid(errors)) {
@@ -258,6 +289,9 @@ void Player::conclude(const IPSERDESIP::ConfigMap& config) {
     }
     if (!m_shown) {
         m_report.complaints = complaintsSince(0);
+    }
+    if (m_dialogAccepted && m_report.messages.isEmpty()) {
+        m_report.details.clear(); // nothing has failed
     }
     if (m_report.error.isEmpty() && m_dialogAccepted && config.isEmpty()) {
         m_report.error = QStringLiteral("the IP accepted the dialog and gave no configuration");

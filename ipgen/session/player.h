@@ -48,6 +48,7 @@ private:
     void refuse(int step, bool tries, const QString& why);
     void leave();
     void watchTime();
+    QStringList overriddenSettings() const;
     /// "WHAT: WHY" of what libraries have reported after the first `errors`.
     QStringList complaintsSince(int errors) const;
     void gatherDetails();

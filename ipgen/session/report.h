@@ -45,6 +45,10 @@ struct Report {
     QStringList details;          ///< what the host had to say about failures, each once
     IPSERDESIP::ConfigMap config; ///< when accepted
 
+    /// Fields that showed something else than they were last set to when OK was asked for, a
+    /// sentence each: later settings' rules have changed them.
+    QStringList overridden;
+
     bool turnedDown = false; ///< the last thing asked of the dialog was OK, and it stayed open
     QStringList complaints;  ///< what libraries reported during that, or when it was to open
     int saidBefore = 0;      ///< how many messages came before that

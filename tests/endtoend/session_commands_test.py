@@ -42,6 +42,40 @@ class CommandTest(EndToEnd):
 
 
 class Options(CommandTest):
+    def test_a_setting_that_a_rule_overrides_is_told(self):
+        told = 'ipgen: %s: tab1/%s was set to "%s", and a rule of the dialog has made it "%s"\n'
+        run = self.ipgen("create", self.project, "a", "--set", "tab1/q0_l0=true",
+                         "--set", "tab1/TXLineRate=99")
+        self.assertEqual(run.err, told % ("a", "TXLineRate", "99", "1.25"))
+        self.assertEqual(self.config("a")["TX_RATE"], "1.25")
+        # Ticking a lane brings the default reference back.
+        run = self.ipgen("create", self.project, "b",
+                         "--set", "tab1/CombBoxReferenceClockSource=Q0 REFCLK1",
+                         "--set", "tab1/ReferenceClockFrequency=100", "--set", "tab1/q0_l1=true")
+        self.assertEqual(run.err, told % ("b", "ReferenceClockFrequency", "100", "125"))
+        run = self.ipgen("create", self.project, "c", "--set", "tab1/q0_l2=true",
+                         "--set", "tab1/TXLineRate=99", "--set", "tab1/TXLineRate=2.50",
+                         "--set", "tab1/CombBoxReferenceClockSource=Q0 REFCLK2",
+                         "--set", "tab5/biasSpinBox=09")
+        self.assertEqual(run.err, "")
+        self.assertEqual(self.config("c")["TX_RATE"], "2.50")
+
+    def test_an_output_without_a_folder_is_refused_before_the_session(self):
+        for option in ("--record", "--report"):
+            nowhere = self.path("nowhere", "file.json")
+            run = self.ipgen("create", self.project, "a", option, nowhere,
+                             "--set", "tab1/q0_l0=true", code=4)
+            self.assert_error(run, nowhere, "there is no folder")
+        self.assertEqual(self.project_document()["instances"], {})
+
+    def test_details_are_of_failures(self):
+        self.create("a", lanes("q0_l0"))
+        report = self.session("create", "b", lanes("q0_l1", "q0_l2", "q0_l3")
+                              + [{"answer": "No"}, {"accept": True}])
+        self.assertEqual([message["title"] for message in report["messages"]], ["Question"])
+        quiet = self.session("open", "a", [{"accept": True}])
+        self.assertEqual((quiet["messages"], quiet["details"]), ([], []))
+
     def test_set_then_accept(self):
         run = self.ipgen("create", self.project, "link0", "--set", "tab1/q0_l2=true",
                          "--set", TX + "=2.5", "--set", WIDTH + "=20", "--set", BIAS + "=12",
