@@ -1,5 +1,6 @@
 #include "ipgen/session/approach.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -7,6 +8,11 @@
 namespace Ipgen::Session {
 
 namespace {
+
+/// The context of this file's texts.
+struct ApproachTexts {
+    Q_DECLARE_TR_FUNCTIONS(ApproachTexts)
+};
 
 const QString end = QStringLiteral("end");
 
@@ -192,7 +198,7 @@ private:
     static QString sentence(const Script& missing, const QVariantMap& state) {
         QStringList fields;
         for (const Step& step : missing) {
-            fields.append(QStringLiteral("%1 (%2 instead of %3)")
+            fields.append(ApproachTexts::tr("%1 (%2 instead of %3)")
                               .arg(step.target,
                                    valueOf(state.value(step.target).toMap()).toString(),
                                    step.to.toString()));

@@ -201,6 +201,100 @@
     </message>
 </context>
 <context>
+    <name>ApproachTexts</name>
+    <message>
+        <source>%1 (%2 instead of %3)</source>
+        <translation>%1 (%2 statt %3)</translation>
+    </message>
+</context>
+<context>
+    <name>FieldTexts</name>
+    <message>
+        <source>it went away while it was used</source>
+        <translation>es verschwand während der Bedienung</translation>
+    </message>
+    <message>
+        <source>it refuses to be emptied</source>
+        <translation>es lässt sich nicht leeren</translation>
+    </message>
+    <message>
+        <source>it refuses the character &quot;%1&quot; of &quot;%2&quot; (at %3)</source>
+        <translation>es nimmt das Zeichen „%1“ von „%2“ nicht an (Stelle %3)</translation>
+    </message>
+    <message>
+        <source>it is a line edit and needs a text</source>
+        <translation>es ist ein Textfeld und braucht einen Text</translation>
+    </message>
+    <message>
+        <source>it can only be read</source>
+        <translation>es lässt sich nur lesen</translation>
+    </message>
+    <message>
+        <source>it cannot take the focus</source>
+        <translation>es kann den Fokus nicht bekommen</translation>
+    </message>
+    <message>
+        <source>it is a combo box and needs the text of an item</source>
+        <translation>es ist eine Auswahlliste und braucht den Text eines Eintrags</translation>
+    </message>
+    <message>
+        <source>it has no item &quot;%1&quot;, it is empty</source>
+        <translation>es hat keinen Eintrag „%1“, es ist leer</translation>
+    </message>
+    <message>
+        <source>it has no item &quot;%1&quot;; it has %2</source>
+        <translation>es hat keinen Eintrag „%1“; es hat %2</translation>
+    </message>
+    <message>
+        <source>its item &quot;%1&quot; is disabled</source>
+        <translation>sein Eintrag „%1“ ist gesperrt</translation>
+    </message>
+    <message>
+        <source>its list does not open</source>
+        <translation>seine Liste öffnet sich nicht</translation>
+    </message>
+    <message>
+        <source>it is a check box and needs true or false</source>
+        <translation>es ist ein Kontrollkästchen und braucht true oder false</translation>
+    </message>
+    <message>
+        <source>the click did not leave it checked</source>
+        <translation>nach dem Klick ist es nicht angekreuzt</translation>
+    </message>
+    <message>
+        <source>the click did not leave it unchecked</source>
+        <translation>nach dem Klick ist es noch angekreuzt</translation>
+    </message>
+    <message>
+        <source>it is a checkable group and needs true or false</source>
+        <translation>es ist eine ankreuzbare Gruppe und braucht true oder false</translation>
+    </message>
+    <message>
+        <source>it is a group that cannot be checked</source>
+        <translation>es ist eine Gruppe, die sich nicht ankreuzen lässt</translation>
+    </message>
+    <message>
+        <source>it is a spin box and needs a whole number</source>
+        <translation>es ist ein Zahlenfeld und braucht eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>it is a spin box and needs a number</source>
+        <translation>es ist ein Zahlenfeld und braucht eine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is out of its range, %2 to %3</source>
+        <translation>%1 liegt außerhalb seines Bereichs, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>it refuses &quot;%1&quot;</source>
+        <translation>es nimmt „%1“ nicht an</translation>
+    </message>
+    <message>
+        <source>a %1 is no field that can be set</source>
+        <translation>%1 ist kein Feld, das sich setzen lässt</translation>
+    </message>
+</context>
+<context>
     <name>IPSERDESIP::FieldKeeper</name>
     <message>
         <source>Not the default, which is &quot;%1&quot;</source>
@@ -724,6 +818,13 @@
     </message>
 </context>
 <context>
+    <name>PlayTexts</name>
+    <message>
+        <source>a rule makes it &quot;%1&quot;</source>
+        <translation>eine Regel macht daraus „%1“</translation>
+    </message>
+</context>
+<context>
     <name>SheetTexts</name>
     <message>
         <source>⚠ %1 (%2): %3</source>
@@ -858,6 +959,37 @@
     <message>
         <source>problem</source>
         <translation>Problem</translation>
+    </message>
+</context>
+<context>
+    <name>ViewTexts</name>
+    <message>
+        <source>&quot;%1&quot; is no object: tabN/NAME or frame/NAME is</source>
+        <translation>„%1“ ist kein Objekt: tabN/NAME oder frame/NAME ist eines</translation>
+    </message>
+    <message>
+        <source>the frame has no field &quot;%1&quot;</source>
+        <translation>der Rahmen hat kein Feld „%1“</translation>
+    </message>
+    <message>
+        <source>there is no tab %1, the dialog has %2</source>
+        <translation>es gibt keine Seite %1, der Dialog hat %2</translation>
+    </message>
+    <message>
+        <source>tab %1 has no object &quot;%2&quot;</source>
+        <translation>Seite %1 hat kein Objekt „%2“</translation>
+    </message>
+    <message>
+        <source>it is hidden</source>
+        <translation>es ist verborgen</translation>
+    </message>
+    <message>
+        <source>its tab is disabled</source>
+        <translation>seine Seite ist gesperrt</translation>
+    </message>
+    <message>
+        <source>it is disabled</source>
+        <translation>es ist gesperrt</translation>
     </message>
 </context>
 <context>

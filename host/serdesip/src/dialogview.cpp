@@ -3,6 +3,7 @@
 #include "setfield.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QScrollArea>
@@ -12,12 +13,13 @@ namespace IPSERDESIP {
 
 namespace {
 
+/// The context of this file's texts.
+struct ViewTexts {
+    Q_DECLARE_TR_FUNCTIONS(ViewTexts)
+};
+
 constexpr const char* framePrefix = "frame/";
 constexpr const char* tabPrefix = "tab";
-
-QString quoted(const QString& text) {
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
 
 /// The first of these that would show, else the first.
 QWidget* firstVisible(const QList<QWidget*>& widgets, const QWidget* ancestor) {
@@ -59,7 +61,7 @@ DialogView::Place DialogView::find(const QString& name) const {
     const QString where = name.left(slash);
     const QString object = slash < 0 ? QString() : name.mid(slash + 1);
     if (object.isEmpty()) {
-        place.why = quoted(name) + QLatin1String(" is no object: tabN/NAME or frame/NAME is");
+        place.why = ViewTexts::tr("\"%1\" is no object: tabN/NAME or frame/NAME is").arg(name);
         return place;
     }
     if (name.startsWith(QLatin1String(framePrefix))) {
@@ -72,7 +74,7 @@ DialogView::Place DialogView::find(const QString& name) const {
         }
         place.widget = firstVisible(around, m_dialog);
         if (place.widget == nullptr) {
-            place.why = QLatin1String("the frame has no field ") + quoted(object);
+            place.why = ViewTexts::tr("the frame has no field \"%1\"").arg(object);
         }
         return place;
     }
@@ -80,14 +82,15 @@ DialogView::Place DialogView::find(const QString& name) const {
     const int count = m_tabs == nullptr ? 0 : m_tabs->count();
     const int number = where.mid(int(qstrlen(tabPrefix))).toInt(&isNumber);
     if (!where.startsWith(QLatin1String(tabPrefix)) || !isNumber) {
-        place.why = quoted(name) + QLatin1String(" is no object: tabN/NAME or frame/NAME is");
+        place.why = ViewTexts::tr("\"%1\" is no object: tabN/NAME or frame/NAME is").arg(name);
     } else if (number < 1 || number > count) {
-        place.why = QStringLiteral("there is no tab %1, the dialog has %2").arg(number).arg(count);
+        place.why = ViewTexts::tr("there is no tab %1, the dialog has %2").arg(number).arg(count);
     } else {
         place.page = m_tabs->widget(number - 1);
         place.widget = firstVisible(place.page->findChildren<QWidget*>(object), place.page);
         if (place.widget == nullptr) {
-            place.why = QStringLiteral("tab %1 has no object ").arg(number) + quoted(object);
+            place.why =
+                ViewTexts::tr("tab %1 has no object \"%2\"").arg(QString::number(number), object);
         }
     }
     return place;
@@ -109,12 +112,12 @@ QString DialogView::nameOf(const QWidget* widget) const {
 QString DialogView::whyOutOfReach(const Place& place) const {
     const QWidget* within = place.page != nullptr ? place.page : m_dialog.data();
     if (!place.widget->isVisibleTo(within)) {
-        return QStringLiteral("it is hidden");
+        return ViewTexts::tr("it is hidden");
     }
     if (place.page != nullptr && !m_tabs->isTabEnabled(m_tabs->indexOf(place.page))) {
-        return QStringLiteral("its tab is disabled");
+        return ViewTexts::tr("its tab is disabled");
     }
-    return place.widget->isEnabled() ? QString() : QStringLiteral("it is disabled");
+    return place.widget->isEnabled() ? QString() : ViewTexts::tr("it is disabled");
 }
 
 void DialogView::bringIntoSight(const Place& place) const {

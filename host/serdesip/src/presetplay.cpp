@@ -2,11 +2,17 @@
 
 #include "fieldvalue.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 namespace IPSERDESIP {
 
 namespace {
+
+/// The context of this file's texts.
+struct PlayTexts {
+    Q_DECLARE_TR_FUNCTIONS(PlayTexts)
+};
 
 QString shown(const DialogView& view, const QString& object) {
     const DialogView::Place place = view.find(object);
@@ -54,7 +60,7 @@ QList<PresetRefusal> playPreset(const DialogView& view, const QList<PresetStep>&
         const PresetStep& step = steps.at(i);
         const bool missed = last.value(step.object) == i && !shows(view, step);
         if (missed && why.at(i).isEmpty()) {
-            why[i] = QStringLiteral("a rule makes it \"%1\"").arg(shown(view, step.object));
+            why[i] = PlayTexts::tr("a rule makes it \"%1\"").arg(shown(view, step.object));
         }
         if (!why.at(i).isEmpty()) {
             refused.append({step.object, step.to, why.at(i)});

@@ -5,6 +5,7 @@
 #include <QAbstractItemModel>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QLocale>
@@ -19,12 +20,17 @@ namespace {
 
 using namespace Hands;
 
+/// The context of this file's texts.
+struct FieldTexts {
+    Q_DECLARE_TR_FUNCTIONS(FieldTexts)
+};
+
 QString quoted(const QString& text) {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
 QString vanished() {
-    return QStringLiteral("it went away while it was used");
+    return FieldTexts::tr("it went away while it was used");
 }
 
 /// The focus goes on, as with the Tab key: fields tell their rules that editing has ended.
@@ -86,7 +92,7 @@ QString typeText(QLineEdit* edit, const QString& text) {
         const QString before = edit->displayText();
         pressKey(edit, Qt::Key_Delete);
         const bool emptied = alive && (edit->text().isEmpty() || edit->displayText() != before);
-        return emptied ? QString() : QStringLiteral("it refuses to be emptied");
+        return emptied ? QString() : FieldTexts::tr("it refuses to be emptied");
     }
     const QStringList characters = charactersOf(text);
     for (int i = 0; i < characters.size(); ++i) {
@@ -95,8 +101,8 @@ QString typeText(QLineEdit* edit, const QString& text) {
             return vanished();
         }
         if (!taken && !steppedOver(edit, characters.at(i))) {
-            return QStringLiteral("it refuses the character %1 of %2 (at %3)")
-                .arg(quoted(characters.at(i)), quoted(text), QString::number(i + 1));
+            return FieldTexts::tr("it refuses the character \"%1\" of \"%2\" (at %3)")
+                .arg(characters.at(i), text, QString::number(i + 1));
         }
     }
     return {};
@@ -116,15 +122,15 @@ void takeBack(QLineEdit* edit, const QString& former, const QString& shown) {
 
 QString setLineEdit(QLineEdit* edit, const QVariant& to, QWidget* rest) {
     if (to.type() != QVariant::String) {
-        return QStringLiteral("it is a line edit and needs a text");
+        return FieldTexts::tr("it is a line edit and needs a text");
     }
     if (edit->isReadOnly()) {
-        return QStringLiteral("it can only be read");
+        return FieldTexts::tr("it can only be read");
     }
     const QPointer<QLineEdit> alive(edit);
     focusOn(edit);
     if (!alive || !edit->isEnabled()) {
-        return QStringLiteral("it cannot take the focus");
+        return FieldTexts::tr("it cannot take the focus");
     }
     const QString former = edit->text();
     const QString shown = edit->displayText();
@@ -141,7 +147,7 @@ QString setLineEdit(QLineEdit* edit, const QVariant& to, QWidget* rest) {
 
 QString setComboBox(QComboBox* combo, const QVariant& to) {
     if (to.type() != QVariant::String) {
-        return QStringLiteral("it is a combo box and needs the text of an item");
+        return FieldTexts::tr("it is a combo box and needs the text of an item");
     }
     const int index = combo->findText(to.toString(), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index < 0) {
@@ -149,16 +155,17 @@ QString setComboBox(QComboBox* combo, const QVariant& to) {
         for (int i = 0; i < combo->count(); ++i) {
             items.append(quoted(combo->itemText(i)));
         }
-        return QStringLiteral("it has no item ") + quoted(to.toString()) +
-               (items.isEmpty() ? QStringLiteral(", it is empty")
-                                : QStringLiteral("; it has ") + items.join(QStringLiteral(", ")));
+        return items.isEmpty()
+                   ? FieldTexts::tr("it has no item \"%1\", it is empty").arg(to.toString())
+                   : FieldTexts::tr("it has no item \"%1\"; it has %2")
+                         .arg(to.toString(), items.join(QStringLiteral(", ")));
     }
     const QModelIndex item =
         combo->model()->index(index, combo->modelColumn(), combo->rootModelIndex());
     if (!item.flags().testFlag(Qt::ItemIsEnabled)) {
-        return QStringLiteral("its item ") + quoted(to.toString()) + QStringLiteral(" is disabled");
+        return FieldTexts::tr("its item \"%1\" is disabled").arg(to.toString());
     }
-    return chooseItem(combo, index) ? QString() : QStringLiteral("its list does not open");
+    return chooseItem(combo, index) ? QString() : FieldTexts::tr("its list does not open");
 }
 
 /// True and false, also as the texts that a command line gives.
@@ -174,14 +181,14 @@ bool toTruth(const QVariant& value, bool* truth) {
 QString setCheckBox(QCheckBox* box, const QVariant& to) {
     bool wanted = false;
     if (!toTruth(to, &wanted)) {
-        return QStringLiteral("it is a check box and needs true or false");
+        return FieldTexts::tr("it is a check box and needs true or false");
     }
     const QPointer<QCheckBox> alive(box);
     if (box->isChecked() != wanted) {
         click(box);
         if (alive && box->isChecked() != wanted) {
-            return QStringLiteral("the click did not leave it ") +
-                   (wanted ? QStringLiteral("checked") : QStringLiteral("unchecked"));
+            return wanted ? FieldTexts::tr("the click did not leave it checked")
+                          : FieldTexts::tr("the click did not leave it unchecked");
         }
     }
     return {};
@@ -192,8 +199,8 @@ QString setGroupBox(QGroupBox* box, const QVariant& to) {
     bool wanted = false;
     if (!box->isCheckable() || !toTruth(to, &wanted)) {
         return box->isCheckable()
-                   ? QStringLiteral("it is a checkable group and needs true or false")
-                   : QStringLiteral("it is a group that cannot be checked");
+                   ? FieldTexts::tr("it is a checkable group and needs true or false")
+                   : FieldTexts::tr("it is a group that cannot be checked");
     }
     if (box->isChecked() != wanted) {
         focusOn(box);
@@ -213,16 +220,16 @@ template <typename Spin>
 QString setSpin(Spin* spin, const QVariant& to, bool whole, QWidget* rest) {
     double number = 0.0;
     if (!toNumber(to, &number) || (whole && number != std::floor(number))) {
-        return whole ? QStringLiteral("it is a spin box and needs a whole number")
-                     : QStringLiteral("it is a spin box and needs a number");
+        return whole ? FieldTexts::tr("it is a spin box and needs a whole number")
+                     : FieldTexts::tr("it is a spin box and needs a number");
     }
     if (number < double(spin->minimum()) || number > double(spin->maximum())) {
-        return QStringLiteral("%1 is out of its range, %2 to %3")
+        return FieldTexts::tr("%1 is out of its range, %2 to %3")
             .arg(QString::number(number, 'g', 15), QString::number(spin->minimum()),
                  QString::number(spin->maximum()));
     }
     if (spin->isReadOnly()) {
-        return QStringLiteral("it can only be read");
+        return FieldTexts::tr("it can only be read");
     }
     const QPointer<Spin> alive(spin);
     const QPointer<QLineEdit> edit(spin->template findChild<QLineEdit*>());
@@ -243,7 +250,7 @@ QString setSpin(Spin* spin, const QVariant& to, bool whole, QWidget* rest) {
         spin->setValue(former);
     }
     leave(spin, rest);
-    return taken ? QString() : QStringLiteral("it refuses ") + quoted(text);
+    return taken ? QString() : FieldTexts::tr("it refuses \"%1\"").arg(text);
 }
 
 } // namespace
@@ -267,8 +274,8 @@ QString setField(QWidget* field, const QVariant& to, QWidget* rest) {
     if (auto* spin = qobject_cast<QDoubleSpinBox*>(field)) {
         return setSpin(spin, to, false, rest);
     }
-    return QLatin1String("a ") + QLatin1String(field->metaObject()->className()) +
-           QStringLiteral(" is no field that can be set");
+    return FieldTexts::tr("a %1 is no field that can be set")
+        .arg(QLatin1String(field->metaObject()->className()));
 }
 
 } // namespace IPSERDESIP

@@ -4,8 +4,12 @@
 #include "ipgen/core/translation.h"
 #include "ipgen/window/mainwindow.h"
 
+#include <serdesip/dialogview.h>
+#include <serdesip/protocolgendlg.h>
+
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabBar>
@@ -48,6 +52,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void everyTextIsTranslated();
+    void refusalsAreTranslated();
     void savedFileIsNot();
     void language_data();
     void language();
@@ -121,6 +126,21 @@ void TranslationTest::everyTextIsTranslated() {
     }
     QVERIFY(looked > 80);
     QCOMPARE(plain.join(QLatin1Char('\n')), QString());
+}
+
+/// Why a field does not take what a preset says is told in the dialog.
+void TranslationTest::refusalsAreTranslated() {
+    IPSERDESIP::protocolGenDlg dialog;
+    auto* lane = new QComboBox(&dialog);
+    lane->setObjectName(QStringLiteral("lane"));
+    lane->addItem(QStringLiteral("Q0"));
+    const IPSERDESIP::DialogView view(&dialog);
+    dialog.show();
+    QCOMPARE(view.setField(QStringLiteral("frame/lane"), QStringLiteral("Q7")),
+             QStringLiteral("[it has no item \"Q7\"; it has \"Q0\"]"));
+    lane->setEnabled(false);
+    QCOMPARE(view.setField(QStringLiteral("frame/lane"), QStringLiteral("Q0")),
+             QStringLiteral("[it is disabled]"));
 }
 
 void TranslationTest::savedFileIsNot() {
