@@ -241,26 +241,21 @@ QStringList Player::overriddenSettings() const {
     for (const Step& step : m_script.mid(0, m_current)) {
         if (step.kind == Step::Kind::Set && !step.tries) {
             asked.insert(step.target, step.to);
+        } else if (step.kind == Step::Kind::Preset) {
+            const QList<IPSERDESIP::PresetStep> settings =
+                step.to.value<IPSERDESIP::Preset>().steps;
+            for (const IPSERDESIP::PresetStep& setting : settings) {
+                asked.insert(setting.object, setting.to);
+            }
         }
     }
     QStringList sentences;
-    const QVariantMap state = asked.isEmpty() ? QVariantMap() : snapshotOf(m_view);
     for (auto it = asked.constBegin(); it != asked.constEnd(); ++it) {
-        const QVariantMap field = state.value(it.key()).toMap();
-        QVariant shown = field.value(QStringLiteral("text"));
-        for (const char* key : {"checked", "value"}) {
-            shown = field.value(QLatin1String(key), shown);
-        }
-        const QString wanted = it.value().toString();
-        bool numbers[2] = {};
-        const bool equal = shown.toString().compare(wanted, Qt::CaseInsensitive) == 0 ||
-                           (shown.toDouble(&numbers[0]) == wanted.toDouble(&numbers[1]) &&
-                            numbers[0] && numbers[1]);
-        if (!field.isEmpty() && !equal) {
+        if (!m_view.shows(it.key(), it.value())) {
             sentences.append(
                 QStringLiteral("%1 was set to \"%2\", and a rule of the dialog has made "
                                "it \"%3\"")
-                    .arg(it.key(), wanted, shown.toString()));
+                    .arg(it.key(), it.value().toString(), m_view.shownIn(it.key())));
         }
     }
     return sentences;

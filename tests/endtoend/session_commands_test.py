@@ -60,6 +60,12 @@ class Options(CommandTest):
         self.assertEqual(run.err, "")
         self.assertEqual(self.config("c")["TX_RATE"], "2.50")
 
+    def test_a_preset_that_a_later_setting_overrides_is_told(self):
+        run = self.ipgen("create", self.project, "a", "--preset", "Serial bus, 2.5G 8B/10B",
+                         "--set", "tab1/q0_l1=true")
+        self.assertEqual(run.err, 'ipgen: a: tab1/ReferenceClockFrequency was set to "100", and a '
+                                  'rule of the dialog has made it "125"\n')
+
     def test_an_output_without_a_folder_is_refused_before_the_session(self):
         for option in ("--record", "--report"):
             nowhere = self.path("nowhere", "file.json")

@@ -1,5 +1,6 @@
 #include "serdesip/dialogview.h"
 
+#include "fieldvalue.h"
 #include "setfield.h"
 
 #include <QAbstractButton>
@@ -153,6 +154,16 @@ QString DialogView::setField(const QString& name, const QVariant& to) const {
     bringIntoSight(place);
     QTabWidget* pages = tabs();
     return IPSERDESIP::setField(place.widget, to, pages == nullptr ? nullptr : pages->tabBar());
+}
+
+QString DialogView::shownIn(const QString& name) const {
+    const QWidget* field = find(name).widget;
+    return field == nullptr ? QString() : fieldvalue::read(*field);
+}
+
+bool DialogView::shows(const QString& name, const QVariant& value) const {
+    const QWidget* field = find(name).widget;
+    return field != nullptr && fieldvalue::shows(*field, value);
 }
 
 } // namespace IPSERDESIP

@@ -1,7 +1,5 @@
 #include "serdesip/presetplay.h"
 
-#include "fieldvalue.h"
-
 #include <QCoreApplication>
 #include <QHash>
 
@@ -13,19 +11,6 @@ namespace {
 struct PlayTexts {
     Q_DECLARE_TR_FUNCTIONS(PlayTexts)
 };
-
-QString shown(const DialogView& view, const QString& object) {
-    const DialogView::Place place = view.find(object);
-    return place.widget == nullptr ? QString() : fieldvalue::read(*place.widget);
-}
-
-/// To the letter, or in the field's own spelling too.
-bool shows(const DialogView& view, const PresetStep& step, bool toTheLetter = false) {
-    const DialogView::Place place = view.find(step.object);
-    return place.widget != nullptr &&
-           (toTheLetter ? fieldvalue::read(*place.widget) == step.to.toString()
-                        : fieldvalue::shows(*place.widget, step.to));
-}
 
 } // namespace
 
@@ -44,7 +29,8 @@ QList<PresetRefusal> playPreset(const DialogView& view, const QList<PresetStep>&
             const PresetStep& step = steps.at(i);
             const bool counts = last.value(step.object) == i;
             // A field keeps the spelling that is typed, as far as it can.
-            if (shows(view, step, pass == 0)) {
+            if (pass == 0 ? view.shownIn(step.object) == step.to.toString()
+                          : view.shows(step.object, step.to)) {
                 why[i].clear();
             } else if (pass == 0 || counts) {
                 why[i] = view.setField(step.object, step.to);
@@ -58,9 +44,9 @@ QList<PresetRefusal> playPreset(const DialogView& view, const QList<PresetStep>&
     QList<PresetRefusal> refused;
     for (int i = 0; i < steps.size() && view.dialog() != nullptr; ++i) {
         const PresetStep& step = steps.at(i);
-        const bool missed = last.value(step.object) == i && !shows(view, step);
+        const bool missed = last.value(step.object) == i && !view.shows(step.object, step.to);
         if (missed && why.at(i).isEmpty()) {
-            why[i] = PlayTexts::tr("a rule makes it \"%1\"").arg(shown(view, step.object));
+            why[i] = PlayTexts::tr("a rule makes it \"%1\"").arg(view.shownIn(step.object));
         }
         if (!why.at(i).isEmpty()) {
             refused.append({step.object, step.to, why.at(i)});

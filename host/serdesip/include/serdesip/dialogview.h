@@ -49,6 +49,10 @@ public:
     /// Gives a field a value as a user does: brings it into sight, types or clicks, and leaves it.
     /// @return why the field refused; empty: done. A field that refuses shows what it showed.
     QString setField(const QString& name, const QVariant& to) const;
+    /// What a field shows, as a text; empty for an object that is none.
+    QString shownIn(const QString& name) const;
+    /// Whether the field shows the value, maybe in its own spelling (letter case, digits).
+    bool shows(const QString& name, const QVariant& value) const;
 
 private:
     QPointer<protocolGenDlg> m_dialog;
